@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+/// @file
+/// Everything above this folder is written once, against Windows names, and includes this file and nothing of the
+/// system. The framework classes (`CString`, `CArray`, `CDC` ...) are the project's own on both systems.
+
+#include "Platform/Export.h"
+#include "Platform/PixelMemory.h"
+#include "Platform/System.h"
+#include "Platform/afx/Afx.h"

@@ -1,0 +1,4 @@
+// SPDX-License-Identifier: MIT
+#include "Platform/afx/Object.h"
+
+CObject::~CObject() = default;

@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+/// @file
+/// Settings and their values. Every enumeration is kept as a plain 32-bit number: a caller may cast any number to it,
+/// and the call that takes it answers `InvalidParameter`.
+
+#include "Platform/gdiplus/Types.h"
+
+namespace Gdiplus {
+
+enum QualityMode : INT { QualityModeInvalid = -1, QualityModeDefault = 0, QualityModeLow = 1, QualityModeHigh = 2 };
+
+enum BrushType : INT {
+    BrushTypeSolidColor = 0,
+    BrushTypeHatchFill = 1,
+    BrushTypeTextureFill = 2,
+    BrushTypePathGradient = 3,
+    BrushTypeLinearGradient = 4
+};
+
+enum CompositingMode : INT { CompositingModeSourceOver = 0, CompositingModeSourceCopy = 1 };
+
+enum CompositingQuality : INT {
+    CompositingQualityInvalid = QualityModeInvalid,
+    CompositingQualityDefault = QualityModeDefault,
+    CompositingQualityHighSpeed = QualityModeLow,
+    CompositingQualityHighQuality = QualityModeHigh,
+    CompositingQualityGammaCorrected = 3,
+    CompositingQualityAssumeLinear = 4
+};
+
+enum FlushIntention : INT { FlushIntentionFlush = 0, FlushIntentionSync = 1 };
+
+enum ImageType : INT { ImageTypeUnknown = 0, ImageTypeBitmap = 1, ImageTypeMetafile = 2 };
+
+enum InterpolationMode : INT {
+    InterpolationModeInvalid = QualityModeInvalid,
+    InterpolationModeDefault = QualityModeDefault,
+    InterpolationModeLowQuality = QualityModeLow,
+    InterpolationModeHighQuality = QualityModeHigh,
+    InterpolationModeBilinear = 3,
+    InterpolationModeBicubic = 4,
+    InterpolationModeNearestNeighbor = 5,
+    InterpolationModeHighQualityBilinear = 6,
+    InterpolationModeHighQualityBicubic = 7
+};
+
+enum PixelOffsetMode : INT {
+    PixelOffsetModeInvalid = QualityModeInvalid,
+    PixelOffsetModeDefault = QualityModeDefault,
+    PixelOffsetModeHighSpeed = QualityModeLow,
+    PixelOffsetModeHighQuality = QualityModeHigh,
+    PixelOffsetModeNone = 3,
+    PixelOffsetModeHalf = 4
+};
+
+/// Clockwise rotation first, then the flip; so every result has two names.
+enum RotateFlipType : INT {
+    RotateNoneFlipNone = 0,
+    Rotate90FlipNone = 1,
+    Rotate180FlipNone = 2,
+    Rotate270FlipNone = 3,
+    RotateNoneFlipX = 4,
+    Rotate90FlipX = 5,
+    Rotate180FlipX = 6,
+    Rotate270FlipX = 7,
+    RotateNoneFlipY = Rotate180FlipX,
+    Rotate90FlipY = Rotate270FlipX,
+    Rotate180FlipY = RotateNoneFlipX,
+    Rotate270FlipY = Rotate90FlipX,
+    RotateNoneFlipXY = Rotate180FlipNone,
+    Rotate90FlipXY = Rotate270FlipNone,
+    Rotate180FlipXY = RotateNoneFlipNone,
+    Rotate270FlipXY = Rotate90FlipNone
+};
+
+enum SmoothingMode : INT {
+    SmoothingModeInvalid = QualityModeInvalid,
+    SmoothingModeDefault = QualityModeDefault,
+    SmoothingModeHighSpeed = QualityModeLow,
+    SmoothingModeHighQuality = QualityModeHigh,
+    SmoothingModeNone = 3,
+    SmoothingModeAntiAlias8x4 = 4,
+    SmoothingModeAntiAlias = SmoothingModeAntiAlias8x4,
+    SmoothingModeAntiAlias8x8 = 5
+};
+
+enum TextRenderingHint : INT {
+    TextRenderingHintSystemDefault = 0,
+    TextRenderingHintSingleBitPerPixelGridFit = 1,
+    TextRenderingHintSingleBitPerPixel = 2,
+    TextRenderingHintAntiAliasGridFit = 3,
+    TextRenderingHintAntiAlias = 4,
+    TextRenderingHintClearTypeGridFit = 5
+};
+
+enum Unit : INT {
+    UnitWorld = 0,
+    UnitDisplay = 1,
+    UnitPixel = 2,
+    UnitPoint = 3,
+    UnitInch = 4,
+    UnitDocument = 5,
+    UnitMillimeter = 6
+};
+
+/// What `LockBits` is asked for; the values can be combined.
+enum ImageLockMode : UINT { ImageLockModeRead = 1, ImageLockModeWrite = 2, ImageLockModeUserInputBuf = 4 };
+
+} // namespace Gdiplus

@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: MIT
+#include "Platform/gdiplus/FillRectangle.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace vq::gdiplus {
+namespace {
+
+/// Pixels first .. last - 1.
+struct Range
+{
+    int first;
+    int last;
+
+    int length() const { return std::max(last - first, 0); }
+};
+
+int clampedToInt(double value, int highest)
+{
+    return static_cast<int>(std::clamp(value, 0.0, static_cast<double>(highest)));
+}
+
+/// The pixels of 0 .. size - 1 whose centre lies in [low, high).
+Range centresInside(double low, double high, int size)
+{
+    return {clampedToInt(std::ceil(low), size), clampedToInt(std::ceil(high), size)};
+}
+
+/// The pixels of 0 .. size - 1 of which [low, high) covers anything.
+Range touched(double low, double high, int size)
+{
+    return {clampedToInt(std::ceil(low - 0.5), size), clampedToInt(std::floor(high + 0.5) + 1, size)};
+}
+
+/// How much of pixel `index`, which covers [index - 1/2, index + 1/2), lies in [low, high): 0 .. 1.
+double coverage(int index, double low, double high)
+{
+    return std::max(std::min(index + 0.5, high) - std::max(index - 0.5, low), 0.0);
+}
+
+Channel toChannel(double share)
+{
+    return static_cast<Channel>(std::lround(share * 255));
+}
+
+void fillAliased(const Canvas& canvas, double left, double top, double right, double bottom, Pixel colour)
+{
+    const Range columns = centresInside(left, right, canvas.view.width);
+    const Range rows = centresInside(top, bottom, canvas.view.height);
+    if (columns.length() == 0)
+        return;
+    for (int y = rows.first; y < rows.last; ++y)
+        onRun(canvas, canvas.run(columns.first, y, columns.length()),
+              [&](std::span<Pixel> run) { compositeColour(run, colour, canvas.blend); });
+}
+
+void fillSmooth(const Canvas& canvas, double left, double top, double right, double bottom, Pixel colour)
+{
+    const Range columns = touched(left, right, canvas.view.width);
+    const Range rows = touched(top, bottom, canvas.view.height);
+    // All columns that are covered in full lie between these two.
+    const Range whole{std::max(columns.first, clampedToInt(std::ceil(left + 0.5), columns.last)),
+                      std::min(columns.last, clampedToInt(std::floor(right - 0.5) + 1, columns.last))};
+    const auto fill = [&](int x, int y, int length, double share) {
+        const Channel covered = toChannel(share);
+        if (length > 0 && covered != 0)
+            onRun(canvas, canvas.run(x, y, length),
+                  [&](std::span<Pixel> run) { compositeColour(run, colour, covered, canvas.blend); });
+    };
+    for (int y = rows.first; y < rows.last; ++y) {
+        const double rowShare = coverage(y, top, bottom);
+        for (int x = columns.first; x < std::min(whole.first, columns.last); ++x)
+            fill(x, y, 1, rowShare * coverage(x, left, right));
+        fill(whole.first, y, whole.length(), rowShare);
+        for (int x = std::max(whole.last, whole.first); x < columns.last; ++x)
+            fill(x, y, 1, rowShare * coverage(x, left, right));
+    }
+}
+
+} // namespace
+
+void fillRectangle(const Canvas& canvas, double left, double top, double right, double bottom, Pixel colour)
+{
+    left = canvas.toCentred(left);
+    top = canvas.toCentred(top);
+    right = canvas.toCentred(right);
+    bottom = canvas.toCentred(bottom);
+    if (!(left < right) || !(top < bottom))
+        return;
+    if (canvas.smooth)
+        fillSmooth(canvas, left, top, right, bottom, colour);
+    else
+        fillAliased(canvas, left, top, right, bottom, colour);
+}
+
+} // namespace vq::gdiplus

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+/// @file
+/// Namespace Gdiplus, where there is no GDI+: names, signatures and behaviour of the real one. One header a subject.
+
+#include "Platform/gdiplus/Base.h"
+#include "Platform/gdiplus/Bitmap.h"
+#include "Platform/gdiplus/Brush.h"
+#include "Platform/gdiplus/Color.h"
+#include "Platform/gdiplus/Enums.h"
+#include "Platform/gdiplus/Graphics.h"
+#include "Platform/gdiplus/Image.h"
+#include "Platform/gdiplus/ImageCodecs.h"
+#include "Platform/gdiplus/Init.h"
+#include "Platform/gdiplus/PixelFormats.h"
+#include "Platform/gdiplus/Rect.h"
+#include "Platform/gdiplus/Types.h"

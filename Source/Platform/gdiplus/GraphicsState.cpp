@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: MIT
+#include "Platform/gdiplus/GraphicsState.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace vq::gdiplus {
+namespace {
+
+using Gdiplus::Ok;
+using Gdiplus::Status;
+
+/// The caller's memory without alpha holds anything there, as a device context does.
+SurfaceAlpha alphaOf(const PixelStore& image)
+{
+    if (Gdiplus::IsAlphaPixelFormat(image.format))
+        return SurfaceAlpha::Stored;
+    return image.layout == Layout::Opaque && !image.memory ? SurfaceAlpha::Device : SurfaceAlpha::Opaque;
+}
+
+/// The bytes between which the pixels lie.
+struct Extent
+{
+    const std::uint8_t* first;
+    const std::uint8_t* last;
+};
+
+Extent extentOf(ConstPixelView view)
+{
+    const auto* top = reinterpret_cast<const std::uint8_t*>(view.row(0));
+    const auto* bottom = reinterpret_cast<const std::uint8_t*>(view.row(view.height - 1));
+    const std::size_t rowBytes = static_cast<std::size_t>(view.width) * sizeof(Pixel);
+    return {std::min(top, bottom), std::max(top, bottom) + rowBytes};
+}
+
+} // namespace
+
+float pixelsPer(Gdiplus::Unit unit, float dotsPerInch)
+{
+    switch (unit) {
+    case Gdiplus::UnitPoint:
+        return dotsPerInch / 72;
+    case Gdiplus::UnitInch:
+        return dotsPerInch;
+    case Gdiplus::UnitDocument:
+        return dotsPerInch / 300;
+    case Gdiplus::UnitMillimeter:
+        return dotsPerInch / 25.4f;
+    default:
+        return 1;
+    }
+}
+
+Blend GraphicsSettings::blend() const
+{
+    if (compositingMode == Gdiplus::CompositingModeSourceCopy)
+        return Blend::SourceCopy;
+    const bool isLinear = compositingQuality == Gdiplus::CompositingQualityHighQuality ||
+                          compositingQuality == Gdiplus::CompositingQualityGammaCorrected;
+    return isLinear ? Blend::SourceOverLinearLight : Blend::SourceOver;
+}
+
+GraphicsState::GraphicsState(Pixels image) : m_image(std::move(image)) {}
+
+GraphicsState::GraphicsState(HDC context) : m_context(context) {}
+
+HDC GraphicsState::lend()
+{
+    m_lent = m_image ? m_borrowed.open(m_image->width, m_image->height) : m_context;
+    return m_lent;
+}
+
+bool GraphicsState::takeBack(HDC context)
+{
+    if (!context || context != m_lent)
+        return false;
+    m_lent = nullptr;
+    if (m_image)
+        m_borrowed.close(*m_image);
+    return true;
+}
+
+Resolution GraphicsState::resolution() const
+{
+    if (m_image)
+        return m_image->resolution;
+    return {static_cast<Gdiplus::REAL>(GetDeviceCaps(m_context, LOGPIXELSX)),
+            static_cast<Gdiplus::REAL>(GetDeviceCaps(m_context, LOGPIXELSY))};
+}
+
+Resolution GraphicsState::pageFactors() const
+{
+    const Resolution dots = resolution();
+    return {settings.pageScale * pixelsPer(settings.pageUnit, dots.x),
+            settings.pageScale * pixelsPer(settings.pageUnit, dots.y)};
+}
+
+bool GraphicsState::overlaps(ConstPixelView view) const
+{
+    std::optional<PixelView> own;
+    if (m_image) {
+        if (m_image->isAlignedWords())
+            own = m_image->words();
+    } else if (const auto surface = win32::surfaceOf(m_context)) {
+        own = PixelView{surface->top, surface->stride, surface->width, surface->height};
+    }
+    if (!own || own->width <= 0 || own->height <= 0)
+        return false;
+    const Extent target = extentOf(*own);
+    const Extent source = extentOf(view);
+    const std::less<const std::uint8_t*> before;
+    return before(target.first, source.last) && before(source.first, target.last);
+}
+
+Canvas GraphicsState::canvasOver(PixelView view, Blend blend, SurfaceAlpha alpha) const
+{
+    return {view, blend, alpha, settings.isSmooth(), settings.hasHalfPixelOffset()};
+}
+
+Status GraphicsState::draw(Blend blend, const std::function<Status(const Canvas&)>& renderer)
+{
+    if (m_image) {
+        if (!m_image->isAlignedWords() || m_image->layout == Layout::Premultiplied)
+            return drawOnCopy(blend, renderer);
+        return renderer(canvasOver(m_image->words(), blend, alphaOf(*m_image)));
+    }
+    const auto surface = win32::surfaceOf(m_context);
+    if (!surface || surface->width <= 0 || surface->height <= 0)
+        return Ok;
+    const PixelView view{surface->top, surface->stride, surface->width, surface->height};
+    return renderer(canvasOver(view, blend, SurfaceAlpha::Device));
+}
+
+/// Premultiplied and 24-bit pixels are drawn on as straight ones. Only those that changed are converted back, so that
+/// the others keep every bit.
+Status GraphicsState::drawOnCopy(Blend blend, const std::function<Status(const Canvas&)>& renderer)
+{
+    PixelStore& image = *m_image;
+    const SurfaceAlpha alpha = alphaOf(image);
+    const auto format = alpha == SurfaceAlpha::Stored ? PixelFormat32bppARGB : PixelFormat32bppRGB;
+    const auto copy = copyPixels(image, image.bounds(), format);
+    if (!copy.pixels)
+        return copy.status;
+    const PixelView view = copy.pixels->words();
+    if (const Status status = renderer(canvasOver(view, blend, alpha)); status != Ok)
+        return status;
+
+    std::vector<Pixel> original(static_cast<std::size_t>(view.width));
+    for (int y = 0; y < view.height; ++y) {
+        readRow(image.layout, image.row(y), original);
+        for (int x = 0; x < view.width; ++x)
+            if (view.row(y)[x] != original[static_cast<std::size_t>(x)])
+                writeRow(image.layout, {view.row(y) + x, 1}, image.at(x, y));
+    }
+    return Ok;
+}
+
+} // namespace vq::gdiplus

@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+/// @file
+/// What a Graphics is made of: a surface, settings, and the device context it may have handed out.
+
+#include "Platform/gdiplus/Canvas.h"
+#include "Platform/gdiplus/Enums.h"
+#include "Platform/gdiplus/PixelStore.h"
+#include "Platform/win32/Surface.h"
+
+#include <functional>
+#include <memory>
+
+namespace vq::gdiplus {
+
+/// Pixels per unit at a resolution in dots per inch; 1 for world units, pixels and those of the display.
+float pixelsPer(Gdiplus::Unit unit, float dotsPerInch);
+
+/// Fresh values are GDI+'s.
+struct GraphicsSettings
+{
+    Gdiplus::CompositingMode compositingMode = Gdiplus::CompositingModeSourceOver;
+    Gdiplus::CompositingQuality compositingQuality = Gdiplus::CompositingQualityDefault;
+    Gdiplus::InterpolationMode interpolationMode = Gdiplus::InterpolationModeBilinear;
+    Gdiplus::PixelOffsetMode pixelOffsetMode = Gdiplus::PixelOffsetModeDefault;
+    Gdiplus::SmoothingMode smoothingMode = Gdiplus::SmoothingModeNone;
+    Gdiplus::TextRenderingHint textRenderingHint = Gdiplus::TextRenderingHintSystemDefault;
+    UINT textContrast = 4;
+    Gdiplus::Point renderingOrigin;
+    Gdiplus::Unit pageUnit = Gdiplus::UnitDisplay;
+    Gdiplus::REAL pageScale = 1;
+
+    bool hasHalfPixelOffset() const
+    {
+        return pixelOffsetMode == Gdiplus::PixelOffsetModeHalf ||
+               pixelOffsetMode == Gdiplus::PixelOffsetModeHighQuality;
+    }
+    bool isSmooth() const { return smoothingMode >= Gdiplus::SmoothingModeAntiAlias; }
+    Blend blend() const;
+};
+
+/// A device context over a picture that can only be written to. It is prepared with one colour; what has another colour
+/// afterwards was drawn.
+class BorrowedContext
+{
+public:
+    BorrowedContext() = default;
+    ~BorrowedContext();
+    BorrowedContext(const BorrowedContext&) = delete;
+    BorrowedContext& operator=(const BorrowedContext&) = delete;
+
+    /// Null when memory cannot be had.
+    HDC open(int width, int height);
+    HDC handle() const { return m_context; }
+    /// Copies what was drawn, opaque, and ends the context.
+    void close(PixelStore& target);
+
+private:
+    HDC m_context = nullptr;
+    win32::Surface m_surface{};
+    platform::PixelMemory<std::uint8_t> m_memory;
+};
+
+class GraphicsState
+{
+public:
+    explicit GraphicsState(Pixels image);
+    explicit GraphicsState(HDC context);
+
+    GraphicsSettings settings;
+
+    /// A context that was handed out makes every call fail.
+    bool isBusy() const { return m_lent != nullptr; }
+    HDC lend();
+    /// False when `context` is not the one handed out.
+    bool takeBack(HDC context);
+
+    Resolution resolution() const;
+    /// Pixels per world unit across and down.
+    Resolution pageFactors() const;
+
+    /// Whether a view may show some of the surface's own pixels.
+    bool overlaps(ConstPixelView view) const;
+
+    /// Runs a renderer on the surface, with the blend given. A surface without pixels takes everything and shows
+    /// nothing.
+    Gdiplus::Status draw(Blend blend, const std::function<Gdiplus::Status(const Canvas&)>& renderer);
+    Gdiplus::Status draw(const std::function<Gdiplus::Status(const Canvas&)>& renderer)
+    {
+        return draw(settings.blend(), renderer);
+    }
+
+private:
+    Canvas canvasOver(PixelView view, Blend blend, SurfaceAlpha alpha) const;
+    Gdiplus::Status drawOnCopy(Blend blend, const std::function<Gdiplus::Status(const Canvas&)>& renderer);
+
+    Pixels m_image; ///< empty for a device context
+    HDC m_context = nullptr;
+    HDC m_lent = nullptr;
+    BorrowedContext m_borrowed;
+};
+
+} // namespace vq::gdiplus

@@ -1,0 +1,319 @@
+// SPDX-License-Identifier: MIT
+#include "Platform/gdiplus/compositor/CompositeRow.h"
+
+#include "Platform/gdiplus/compositor/CompositingFormulas.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+
+namespace vq::gdiplus {
+
+namespace {
+
+/// Pixels that are looked at together: if they need nothing they are skipped, if they need little they take a short
+/// way.
+constexpr std::size_t kBlock = 64;
+
+using Block = std::array<Pixel, kBlock>;
+
+/// Two bytes of a pixel, blue and green or red and alpha; may look at memory that holds pixels. Pointers name it in
+/// full: a deduced type would lose the attribute.
+using Lane [[gnu::may_alias]] = std::uint16_t;
+
+struct SharedBits
+{
+    Pixel any = 0;
+    Pixel all = ~Pixel{0};
+};
+
+inline SharedBits sharedBits(const Pixel* pixels, std::size_t count)
+{
+    SharedBits bits;
+    for (std::size_t i = 0; i < count; ++i) {
+        bits.any |= pixels[i];
+        bits.all &= pixels[i];
+    }
+    return bits;
+}
+
+inline bool isOpaque(const Pixel* pixels, std::size_t count)
+{
+    return alphaOf(sharedBits(pixels, count).all) == 255;
+}
+
+/// `dividedBy255` of two products in 16 bits: the largest value on the way is 65025 + 128 + 254.
+constexpr std::uint16_t mixedLane(unsigned destination, unsigned source, unsigned alpha)
+{
+    const auto raised = static_cast<std::uint16_t>(source * alpha + destination * (255U - alpha) + 128U);
+    const auto quotient = static_cast<std::uint16_t>(raised + (raised >> 8));
+    return static_cast<std::uint16_t>(quotient >> 8);
+}
+
+/// `sourceOver` where every destination alpha is 255: alpha stays, and colours need no division by it.
+inline void overOpaque(Pixel* destination, const Pixel* source, std::size_t count)
+{
+    Block alphas; // of each pixel, once for each of its lanes
+    Block colours;
+    for (std::size_t i = 0; i < count; ++i) {
+        const Pixel alpha = alphaOf(source[i]);
+        alphas[i] = alpha | alpha << 16;
+        colours[i] = source[i] | kAlphaBits;
+    }
+    const Lane* a = reinterpret_cast<const Lane*>(alphas.data());
+    const Lane* s = reinterpret_cast<const Lane*>(colours.data());
+    Lane* d = reinterpret_cast<Lane*>(destination);
+    for (std::size_t i = 0; i < 2 * count; ++i) {
+        const unsigned low = mixedLane(d[i] & 0xFFU, s[i] & 0xFFU, a[i]);
+        const unsigned high = mixedLane(d[i] >> 8U, s[i] >> 8U, a[i]);
+        d[i] = static_cast<Lane>(low | high << 8);
+    }
+}
+
+/// As `overOpaque`, with one colour. Whoever calls adds kAlphaBits to the colour.
+inline void colourOverOpaque(Pixel* destination, Pixel colour, unsigned alpha, std::size_t count)
+{
+    Lane* d = reinterpret_cast<Lane*>(destination);
+    const auto mix = [=](unsigned lane, unsigned source) {
+        const unsigned low = mixedLane(lane & 0xFFU, source & 0xFFU, alpha);
+        const unsigned high = mixedLane(lane >> 8U, source >> 8U, alpha);
+        return static_cast<Lane>(low | high << 8);
+    };
+    for (std::size_t i = 0; i < count; ++i) {
+        d[2 * i] = mix(d[2 * i], colour & 0xFFFFU);
+        d[2 * i + 1] = mix(d[2 * i + 1], colour >> 16U);
+    }
+}
+
+/// Through signed integers, which processors convert in one step.
+constexpr float inFloat(std::uint32_t value)
+{
+    return static_cast<float>(static_cast<std::int32_t>(value));
+}
+
+constexpr std::uint32_t nearest(float value)
+{
+    return static_cast<std::uint32_t>(static_cast<std::int32_t>(value + 0.5F));
+}
+
+/// `sourceOver` over every destination. Numerators and denominators are whole numbers below 2^24, exact in single
+/// precision. A quotient of them differs from a half by 0 or by at least 1 / (2 * 65025), which is more than 2^-17, the
+/// most that it is rounded by: so it never crosses or meets a half, and the nearest integer is that of the exact value.
+inline void overAny(Pixel* destination, const Pixel* source, std::size_t count)
+{
+    for (std::size_t i = 0; i < count; ++i) {
+        const Pixel s = source[i];
+        const Pixel d = destination[i];
+        const Pixel untouched = alphaOf(s) == 0 ? ~Pixel{0} : 0; // such a source counts as alpha 1: no division by 0
+        const float sourceWeight = inFloat(alphaOf(s) - untouched) * 255.0F;
+        const float destinationWeight = inFloat(alphaOf(d)) * inFloat(255 - alphaOf(s));
+        const float whole = sourceWeight + destinationWeight;
+        const auto channel = [=](std::uint32_t dc, std::uint32_t sc) {
+            return nearest((inFloat(dc) * destinationWeight + inFloat(sc) * sourceWeight) / whole);
+        };
+        const Pixel result = packed(nearest(whole * (1 / 255.0F)), channel(redOf(d), redOf(s)),
+                                    channel(greenOf(d), greenOf(s)), channel(blueOf(d), blueOf(s)));
+        destination[i] = (d & untouched) | (result & ~untouched);
+    }
+}
+
+/// `sourceOver`, for single pixels; the common divisor of opaque destinations is a constant for the compiler.
+template <typename Light>
+inline Pixel overPixel(Pixel destination, Pixel source)
+{
+    const std::uint32_t alpha = alphaOf(source);
+    if (alpha == 0)
+        return destination;
+    if (alpha == 255)
+        return source;
+    if (alphaOf(destination) != 255)
+        return sourceOver<Light>(destination, source);
+    const auto channel = [=](std::uint32_t d, std::uint32_t s) {
+        return Light::encode(roundedQuotient(Light::decode(d) * (255 - alpha) + Light::decode(s) * alpha, 255));
+    };
+    return packed(255, channel(redOf(destination), redOf(source)), channel(greenOf(destination), greenOf(source)),
+                  channel(blueOf(destination), blueOf(source)));
+}
+
+/// One pixel and a block of them under each `Blend`.
+struct Copy
+{
+    static Pixel pixel(Pixel, Pixel source) { return sourceCopy(source); }
+
+    static void block(Pixel* destination, const Pixel* source, std::size_t count)
+    {
+        for (std::size_t i = 0; i < count; ++i)
+            destination[i] = sourceCopy(source[i]);
+    }
+};
+
+struct Over
+{
+    static Pixel pixel(Pixel destination, Pixel source) { return overPixel<StoredLight>(destination, source); }
+
+    static void block(Pixel* destination, const Pixel* source, std::size_t count)
+    {
+        const SharedBits bits = sharedBits(source, count);
+        if (alphaOf(bits.any) == 0)
+            return;
+        if (alphaOf(bits.all) == 255)
+            std::copy_n(source, count, destination);
+        else if (isOpaque(destination, count))
+            overOpaque(destination, source, count);
+        else
+            overAny(destination, source, count);
+    }
+};
+
+struct OverInLinearLight
+{
+    static Pixel pixel(Pixel destination, Pixel source) { return overPixel<LinearLight>(destination, source); }
+
+    static void block(Pixel* destination, const Pixel* source, std::size_t count)
+    {
+        const SharedBits bits = sharedBits(source, count);
+        if (alphaOf(bits.any) == 0)
+            return;
+        if (alphaOf(bits.all) == 255)
+            std::copy_n(source, count, destination);
+        else
+            for (std::size_t i = 0; i < count; ++i)
+                destination[i] = pixel(destination[i], source[i]);
+    }
+};
+
+/// Rows below this length, most of them at the edges of shapes, are not worth a block.
+constexpr std::size_t kShortRow = 6;
+
+/// Calls `block(first pixel, count)` for whole blocks, whose length the compiler knows, and for the rest.
+template <typename Function>
+inline void forEachBlock(std::size_t count, Function block)
+{
+    std::size_t first = 0;
+    for (; first + kBlock <= count; first += kBlock)
+        block(first, kBlock);
+    if (first < count)
+        block(first, count - first);
+}
+
+template <typename Mode>
+void compositeRowAs(std::span<Pixel> destination, std::span<const Pixel> source)
+{
+    if (destination.size() < kShortRow) {
+        for (std::size_t i = 0; i < destination.size(); ++i)
+            destination[i] = Mode::pixel(destination[i], source[i]);
+        return;
+    }
+    forEachBlock(destination.size(), [=](std::size_t first, std::size_t count) {
+        Mode::block(destination.data() + first, source.data() + first, count);
+    });
+}
+
+/// What is left of `sourceAt(i)` under a row of coverage.
+template <typename Mode, typename SourceAt>
+void compositeCovered(std::span<Pixel> destination, SourceAt sourceAt, std::span<const Channel> coverage)
+{
+    if (destination.size() < kShortRow) {
+        for (std::size_t i = 0; i < destination.size(); ++i)
+            destination[i] = Mode::pixel(destination[i], withCoverage(sourceAt(i), coverage[i]));
+        return;
+    }
+    forEachBlock(destination.size(), [=](std::size_t first, std::size_t count) {
+        Block effective;
+        for (std::size_t i = 0; i < count; ++i)
+            effective[i] = withCoverage(sourceAt(first + i), coverage[first + i]);
+        Mode::block(destination.data() + first, effective.data(), count);
+    });
+}
+
+/// `SourceCopy` under coverage: partly covered pixels are the edges of shapes, few beside the rest.
+template <typename SourceAt>
+void copyCovered(std::span<Pixel> destination, SourceAt sourceAt, std::span<const Channel> coverage)
+{
+    for (std::size_t i = 0; i < destination.size(); ++i)
+        destination[i] = sourceCopy(destination[i], sourceAt(i), coverage[i]);
+}
+
+template <typename SourceAt>
+void compositeCovered(std::span<Pixel> destination, SourceAt sourceAt, std::span<const Channel> coverage, Blend blend)
+{
+    switch (blend) {
+    case Blend::SourceCopy:
+        return copyCovered(destination, sourceAt, coverage);
+    case Blend::SourceOver:
+        return compositeCovered<Over>(destination, sourceAt, coverage);
+    case Blend::SourceOverLinearLight:
+        return compositeCovered<OverInLinearLight>(destination, sourceAt, coverage);
+    }
+}
+
+template <typename Mode>
+void compositeRunOnePixelAtATime(std::span<Pixel> destination, Pixel colour)
+{
+    for (Pixel& pixel : destination)
+        pixel = Mode::pixel(pixel, colour);
+}
+
+void overRun(std::span<Pixel> destination, Pixel colour)
+{
+    if (destination.size() < kShortRow)
+        return compositeRunOnePixelAtATime<Over>(destination, colour);
+    Block source;
+    std::fill_n(source.begin(), std::min(destination.size(), kBlock), colour);
+    forEachBlock(destination.size(), [&](std::size_t first, std::size_t count) {
+        Pixel* target = destination.data() + first;
+        if (isOpaque(target, count))
+            colourOverOpaque(target, colour | kAlphaBits, alphaOf(colour), count);
+        else
+            overAny(target, source.data(), count);
+    });
+}
+
+} // namespace
+
+void compositeRow(std::span<Pixel> destination, std::span<const Pixel> source, Blend blend)
+{
+    switch (blend) {
+    case Blend::SourceCopy:
+        return compositeRowAs<Copy>(destination, source);
+    case Blend::SourceOver:
+        return compositeRowAs<Over>(destination, source);
+    case Blend::SourceOverLinearLight:
+        return compositeRowAs<OverInLinearLight>(destination, source);
+    }
+}
+
+void compositeRow(std::span<Pixel> destination, std::span<const Pixel> source, std::span<const Channel> coverage,
+                  Blend blend)
+{
+    compositeCovered(
+        destination, [pixels = source.data()](std::size_t i) { return pixels[i]; }, coverage, blend);
+}
+
+void compositeColour(std::span<Pixel> destination, Pixel colour, Blend blend)
+{
+    if (blend == Blend::SourceCopy || alphaOf(colour) == 255)
+        std::fill(destination.begin(), destination.end(), sourceCopy(colour));
+    else if (alphaOf(colour) == 0)
+        return;
+    else if (blend == Blend::SourceOver)
+        overRun(destination, colour);
+    else
+        compositeRunOnePixelAtATime<OverInLinearLight>(destination, colour);
+}
+
+void compositeColour(std::span<Pixel> destination, Pixel colour, std::span<const Channel> coverage, Blend blend)
+{
+    compositeCovered(
+        destination, [colour](std::size_t) { return colour; }, coverage, blend);
+}
+
+void compositeColour(std::span<Pixel> destination, Pixel colour, Channel coverage, Blend blend)
+{
+    if (blend != Blend::SourceCopy || coverage == 255)
+        return compositeColour(destination, coverage == 255 ? colour : withCoverage(colour, coverage), blend);
+    for (Pixel& pixel : destination)
+        pixel = sourceCopy(pixel, colour, coverage);
+}
+
+} // namespace vq::gdiplus
