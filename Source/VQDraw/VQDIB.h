@@ -1,0 +1,250 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Platform/Platform.h"
+#include "VQDraw/Export.h"
+
+#include <cstddef>
+#include <cstdint>
+
+/// A 32-bit raster image that can be addressed pixel by pixel and drawn on through GDI+ at the same time.
+///
+/// A pixel is the word `0xAARRGGBB` with straight (not premultiplied) alpha; in memory its bytes are blue, green, red,
+/// alpha. Rows run from the top down without padding in one block, aligned to 16 bytes, which is also the pixel store
+/// of the image's GDI+ bitmap.
+///
+/// Colour arguments of type `COLORREF` are `0x00BBGGRR`; a `Gdiplus::Color` is `0xAARRGGBB` as it stands.
+///
+/// The host starts GDI+ with `InitializeGDIPlus` before it makes images: an image made earlier is empty. On an empty
+/// image every operation does nothing, except those that create one (`Resize`, assignment).
+///
+/// An image is used by one thread at a time. Creating and destroying images is safe from any thread.
+///
+/// Copying by construction gives a cleared image of the same size, deliberately: pass images by reference, and
+/// duplicate content by assignment.
+class VQDRAW_API CVQDIB
+{
+public:
+    /// A cleared image. Sizes below 1 become 1. Empty when memory or GDI+ cannot be had; see `Create`.
+    CVQDIB(int width, int height);
+    /// A cleared image of the size of `other`, whose pixels are not copied, deliberately. An empty one gives 1 x 1.
+    CVQDIB(CVQDIB& other);
+    /// As the reference form; of a null pointer the image is empty.
+    explicit CVQDIB(CVQDIB* other);
+    /// The bitmap's pixels, drawn one to one whatever its resolution: pixels of alpha 0 become 0. Of a null or broken
+    /// bitmap the image is empty. The bitmap stays the caller's.
+    explicit CVQDIB(Gdiplus::Bitmap* bitmap);
+    ~CVQDIB();
+
+    /// Copies flags, shadow colour, shadow offset and all pixels. Font, print cursor and text colour stay,
+    /// deliberately. Of an empty image a cleared 1 x 1 image is made; assignment from itself changes nothing.
+    CVQDIB& operator=(const CVQDIB& other);
+
+    /// @name Size
+    /// @{
+    /// Discards the content and makes a cleared image. @return 1, or 0 and an empty image.
+    int Resize(LONG width, LONG height);
+    int Resize(const CSize& size);
+    /// With `keepContent` the old picture is resampled to the new size by its nearest pixels: column x takes the old
+    /// column trunc(x * old width / new width), the product formed by repeated addition in single precision, rows
+    /// alike. Without it as `Resize(width, height)`. The last argument is ignored, deliberately.
+    /// @return 1 when the image was made anew; 0 when it already had that size (deliberately, although it is intact)
+    /// and content was to be kept; 0 and an empty image when it cannot be made.
+    int Resize(LONG width, LONG height, bool keepContent, bool);
+    int Resize(const CSize& size, bool keepContent, bool);
+
+    LONG GetWidth() const { return m_iWidth; }
+    LONG GetHeight() const { return m_iHeight; }
+    /// Number of pixels.
+    std::int64_t GetSize() const { return m_iPixelCount; }
+    std::int64_t GetSizeInByte() const { return m_iByteSize; }
+    /// @}
+
+    /// @name Pixels
+    /// Coordinates and indices are not checked, except where a member says so.
+    /// @{
+    ULONG* GetImageBuffer() { return m_pImageBuffer; }
+    BYTE* GetByteImageBuffer() { return reinterpret_cast<BYTE*>(m_pImageBuffer); }
+    ULONG* GetImageBuffer(LONG x, LONG y) { return m_pImageBuffer + (m_pRowOffset[y] / kPixelBytes + x); }
+    BYTE* GetByteImageBuffer(LONG x, LONG y) { return GetByteImageBuffer() + m_pRowOffset[y] + x * kPixelBytes; }
+    ULONG& operator()(LONG x, LONG y) { return *GetImageBuffer(x, y); }
+    /// Pixel number `i` counted from the top left, row by row.
+    ULONG& operator[](std::int64_t i) { return m_pImageBuffer[i]; }
+
+    /// Index of a pixel; rows outside the image continue the count.
+    std::int64_t GetOffset(LONG x, LONG y) const;
+    /// Offset of a pixel in bytes. The part of the column, x * 4, is computed in 32 bits and wraps round, deliberately.
+    std::int64_t GetByteOffset(LONG x, LONG y) const;
+    /// As `GetOffset` after a coordinate beyond the image was wrapped round once: by one width or height, not modulo.
+    std::int64_t GetClippedOffset(LONG x, LONG y) const;
+    std::int64_t GetClippedByteOffset(LONG x, LONG y) const;
+
+    ULONG GetColor(LONG x, LONG y) const { return m_pImageBuffer[GetOffset(x, y)]; }
+    /// Byte 0 of the pixel, which is its blue channel, deliberately.
+    BYTE GetR(LONG x, LONG y) const { return static_cast<BYTE>(GetColor(x, y)); }
+    BYTE GetG(LONG x, LONG y) const { return static_cast<BYTE>(GetColor(x, y) >> 8); }
+    /// Byte 2 of the pixel, which is its red channel, deliberately.
+    BYTE GetB(LONG x, LONG y) const { return static_cast<BYTE>(GetColor(x, y) >> 16); }
+    BYTE GetA(LONG x, LONG y) const { return static_cast<BYTE>(GetColor(x, y) >> 24); }
+    /// @}
+
+    /// @name Filling
+    /// Rectangles are normalised and cut to the image; both edges belong to them, deliberately: `CRect(0, 0, 10, 10)`
+    /// is 11 x 11 pixels.
+    /// @{
+    void Clear(BYTE r, BYTE g, BYTE b, BYTE a);
+    /// Opaque; the top byte of the colour is ignored.
+    void Clear(COLORREF colour);
+    void Clear(COLORREF colour, BYTE alpha);
+    /// The colour's ARGB word as it is.
+    void Clear(Gdiplus::Color colour);
+    /// Alpha is clamped to 0 .. 255.
+    void Clear(CRect rect, COLORREF colour, LONG alpha);
+
+    /// Sets alpha and leaves the colours.
+    void ClearAlpha(BYTE alpha);
+    /// As above in a rectangle; an alpha above 255 is 255.
+    void ClearAlpha(CRect rect, ULONG alpha);
+    /// As above in row y; nothing when there is no such row.
+    void ClearScanlineAlpha(LONG y, BYTE alpha);
+
+    /// Alpha becomes alpha * (s + 1) / 256, rounded down, of which the low 8 bits are stored: 255 leaves it, 127
+    /// halves it, values outside 0 .. 255 wrap round.
+    void SaturateAlphaChannel(LONG s);
+    /// As above in row y; nothing when there is no such row.
+    void SaturateScanlineAlpha(LONG y, LONG s);
+    /// @}
+
+    /// @name Geometry and channels
+    /// @{
+    /// Exchanges the red and the blue byte of every pixel.
+    void ExchangeRB();
+    /// Mirrors the image top to bottom, in place.
+    void FlipVertical();
+    /// Turns clockwise first, then flips; width and height change places for quarter turns. Pixels of alpha 0 become
+    /// 0, all others are kept exactly. A value that names no turn only clears the former. When memory cannot be had
+    /// the image stays as it was.
+    void Rotate(Gdiplus::RotateFlipType type);
+    /// Leaves the image as it is, deliberately.
+    void Emboss();
+    /// @}
+
+    /// @name GDI+ for the process
+    /// @{
+    /// Starts GDI+. The host calls it once before it makes images; the library never does.
+    /// @return 1 when GDI+ runs (also when it was running already), else 0.
+    static int InitializeGDIPlus();
+    /// Stops GDI+, also at unloading the library, and is harmless when GDI+ was never started. @return always 1.
+    static int ShutdownGDIPlus();
+
+    static void GetRenderingHint(Gdiplus::TextRenderingHint& hint);
+    /// Sets how text is rendered, for every image from its next text operation on. @return the value before.
+    static Gdiplus::TextRenderingHint SetRenderingHint(Gdiplus::TextRenderingHint hint);
+    /// @}
+
+    /// @name Drawing surfaces
+    /// @{
+    /// Smooth edges for what GDI+ draws; on for a new image.
+    void EnableAntialias(bool on);
+    bool IsEnableAntialias() const;
+    /// The bitmap over the image's own pixels, not a copy; owned by the image, null when it is empty.
+    Gdiplus::Bitmap* GetBitmap() { return m_pBitmap; }
+    /// The drawing surface on that bitmap; owned by the image, null when it is empty.
+    Gdiplus::Graphics* GetGraphics() { return m_pGraphics; }
+
+    /// A new GDI bitmap of the picture over opaque black, which the caller deletes. Its bytes hold the picture
+    /// premultiplied, with its alpha. Null for an empty image.
+    HBITMAP GetBitmapHandle();
+    /// Describes the pixel buffer: 32 bits, top-down rows (negative height), uncompressed.
+    BITMAPINFO GetBitmapInfo() const;
+    /// @}
+
+    /// @name Device contexts
+    /// Showing writes pixels as they are, without blending with what is there, one to one whatever the device's
+    /// resolution. Opaque pixels are exact on every system. A null context shows nothing.
+    /// @{
+    void Update(CDC* target);
+    void Update(const CDC& target);
+    void Update(HDC target);
+    /// With the top left at (x, y).
+    void Update(CDC* target, int x, int y);
+    void Update(const CDC& target, int x, int y);
+    void Update(HDC target, int x, int y);
+    /// The w x h part that starts at (sx, sy).
+    void Update(CDC* target, int x, int y, int sx, int sy, int w, int h);
+    void Update(const CDC& target, int x, int y, int sx, int sy, int w, int h);
+    void Update(HDC target, int x, int y, int sx, int sy, int w, int h);
+
+    /// Copies the w x h block at (sx, sy) of a device context to (dx, dy). Red, green and blue arrive; pixels that
+    /// change get alpha 255.
+    void Copy(HDC source, LONG dx, LONG dy, LONG sx, LONG sy, LONG w, LONG h);
+
+    /// For diagnosis: shows the image on the screen, or where there is none on the memory that stands for it.
+    void DumpToDesktop(int x, int y);
+    /// For diagnosis: shows the alpha channel on the screen as an opaque grey picture.
+    void DumpAlphaToDesktop(LONG x, LONG y);
+    /// @}
+
+    /// @name Dispatch
+    /// Routines are called through these slots. Both switches store the same portable routines, deliberately: no
+    /// result depends on the processor. To be called at start-up, before other threads use images.
+    /// @{
+    static void EnableSIMD();
+    static void DisableSIMD();
+
+    using ImageRoutine = void (*)(CVQDIB& image);
+
+    static ImageRoutine pfEmboss;
+    /// @}
+
+protected:
+    /// Gives every member its first value, without releasing anything: for constructors.
+    void Initialize();
+    /// Makes a cleared image after releasing the old one. Sizes below 1 become 1.
+    /// @return 1; or 0 and an empty image when the pixel count or the bytes of a row exceed 2^31 - 1, memory cannot be
+    /// had, or GDI+ refuses.
+    int Create(int width, int height);
+    /// Releases pixels, bitmap and graphics. Font, colours, flags and cursor are kept.
+    void Destroy();
+    /// Applies text rendering hint and smoothing to the graphics.
+    void InitializeGraphics();
+
+    /// Serialises creation and destruction of images and the use of shared GDI+ state in the whole process.
+    static CCriticalSection _critSect;
+    /// 0 unless GDI+ was started by `InitializeGDIPlus`.
+    static ULONG_PTR m_gdiplusToken;
+    static Gdiplus::TextRenderingHint m_RenderingHint;
+
+private:
+    friend struct VQTestAccess;
+
+    static constexpr std::int64_t kPixelBytes = 4;
+
+    int Allocate(int width, int height, void* (*allocator)(std::size_t) noexcept);
+    bool Adopt(ULONG* pixels, LONG width, LONG height);
+    ULONG* Detach();
+    std::int64_t RowOffset(LONG y) const;
+    bool HasRow(LONG y) const { return y >= 0 && y < m_iHeight; }
+    CRect ClipInclusive(CRect rect) const;
+
+    static void EmbossDefault(CVQDIB& image);
+    static void EmbossSSE2(CVQDIB& image);
+
+    ULONG* m_pImageBuffer;
+    Gdiplus::Bitmap* m_pBitmap;
+    Gdiplus::Graphics* m_pGraphics;
+    Gdiplus::SolidBrush* m_pTextBrush; // null only while GDI+ has not been started
+    std::int64_t* m_pRowOffset;        // in bytes, one a row
+    std::int64_t m_iPixelCount;
+    std::int64_t m_iByteSize;
+    LONG m_iWidth;
+    LONG m_iHeight;
+    int m_iPrintX;
+    int m_iPrintY;
+    int m_iShadowX;
+    int m_iShadowY;
+    LOGFONTW m_LogFont;
+    COLORREF m_uiShadowColor;
+    ULONG m_uiSpare;
+    ULONG m_uiFlags;
+};
