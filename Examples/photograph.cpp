@@ -1,0 +1,126 @@
+// SPDX-License-Identifier: MIT
+// Puts the image class to work on a photograph:  photograph PICTURE FOLDER
+#include "support/Gallery.h"
+
+#include <algorithm>
+#include <cstdio>
+
+namespace {
+
+/// GDI+ runs while this lives, and outlives every image made in its scope.
+struct GdiPlus
+{
+    const bool started = CVQDIB::InitializeGDIPlus() == 1;
+    ~GdiPlus() { CVQDIB::ShutdownGDIPlus(); }
+};
+
+/// A photograph of 12 million pixels would make a page of megabytes: steps work on one of at most 1024 pixels a side.
+void limitSize(CVQDIB& image)
+{
+    constexpr LONG kLongestSide = 1024;
+    const LONG longest = std::max(image.GetWidth(), image.GetHeight());
+    if (longest > kLongestSide)
+        image.Resize(std::max<LONG>(image.GetWidth() * kLongestSide / longest, 1),
+                     std::max<LONG>(image.GetHeight() * kLongestSide / longest, 1), true, true);
+}
+
+/// Opaque at the top, transparent at the bottom.
+void fadeDownwards(CVQDIB& image)
+{
+    for (LONG y = 0; y < image.GetHeight(); ++y)
+        image.SaturateScanlineAlpha(y, 255 - 255 * y / image.GetHeight());
+}
+
+/// The picture as another program gets it from a bitmap handle: over black.
+bool addHandle(Gallery& gallery, CVQDIB& image, const std::string& caption)
+{
+    const HBITMAP handle = image.GetBitmapHandle();
+    Gdiplus::Bitmap exported(handle, nullptr);
+    CVQDIB copy(&exported);
+    DeleteObject(handle);
+    return gallery.add(copy, "7-handle", caption);
+}
+
+/// Four views of the picture shown on a memory device context and grabbed from it.
+bool addDeviceContext(Gallery& gallery, CVQDIB& image, const std::string& caption)
+{
+    CVQDIB half(image);
+    half = image;
+    half.Resize(std::max<LONG>(image.GetWidth() / 2, 1), std::max<LONG>(image.GetHeight() / 2, 1), true, true);
+    const int width = half.GetWidth();
+    const int height = half.GetHeight();
+
+    CDC context;
+    context.CreateCompatibleDC(nullptr);
+    const HBITMAP sheet = CVQDIB(2 * width, 2 * height).GetBitmapHandle();
+    const HGDIOBJ previous = SelectObject(context.m_hDC, sheet);
+    half.Update(&context, 0, 0);
+    half.ExchangeRB();
+    half.Update(&context, width, 0);
+    half.FlipVertical();
+    half.Update(&context, width, height);
+    half.ExchangeRB();
+    half.Update(&context, 0, height);
+
+    CVQDIB grabbed(2 * width, 2 * height);
+    grabbed.Copy(context.m_hDC, 0, 0, 0, 0, grabbed.GetWidth(), grabbed.GetHeight());
+    SelectObject(context.m_hDC, previous);
+    DeleteObject(sheet);
+    return gallery.add(grabbed, "5-context", caption);
+}
+
+bool addSteps(Gallery& gallery, CVQDIB& original)
+{
+    CVQDIB image(original);
+    bool written = gallery.add(original, "0-original", "Loaded through GDI+ into the image");
+    const auto step = [&](const std::string& name, const std::string& caption, auto change) {
+        image = original;
+        change(image);
+        written = gallery.add(image, name, caption) && written;
+    };
+    step("1-turned", "<code>Rotate</code>: a quarter turn clockwise",
+         [](CVQDIB& picture) { picture.Rotate(Gdiplus::Rotate90FlipNone); });
+    step("2-flipped", "<code>FlipVertical</code>", [](CVQDIB& picture) { picture.FlipVertical(); });
+    step("3-exchanged", "<code>ExchangeRB</code>: red and blue change places",
+         [](CVQDIB& picture) { picture.ExchangeRB(); });
+    step("4-halved", "<code>Resize</code> to half, content kept", [](CVQDIB& picture) {
+        picture.Resize(std::max<LONG>(picture.GetWidth() / 2, 1), std::max<LONG>(picture.GetHeight() / 2, 1), true,
+                       true);
+    });
+    written = addDeviceContext(gallery, original, "Shown four times on a memory device context with "
+                                                  "<code>Update</code>, grabbed with <code>Copy</code>") &&
+              written;
+    step("6-faded", "<code>SaturateScanlineAlpha</code>, row by row", fadeDownwards);
+    return addHandle(gallery, image, "The faded picture exported through an <code>HBITMAP</code>: over black") &&
+           written;
+}
+
+int fail(const char* reason, const char* what)
+{
+    std::fprintf(stderr, "photograph: %s: %s\n", reason, what);
+    return 1;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (argc != 3)
+        return fail("usage", "photograph PICTURE FOLDER");
+    const GdiPlus gdiPlus;
+    if (!gdiPlus.started)
+        return fail("cannot start", "GDI+");
+
+    Gdiplus::Bitmap file(std::filesystem::path(argv[1]).wstring().c_str());
+    if (file.GetLastStatus() != Gdiplus::Ok)
+        return fail("not a picture that can be read", argv[1]);
+    CVQDIB original(&file);
+    if (!original.GetBitmap())
+        return fail("no memory for the picture", argv[1]);
+    limitSize(original);
+
+    Gallery gallery(argv[2], "photograph", "A photograph in the image class");
+    if (!addSteps(gallery, original) || !gallery.finish())
+        return fail("cannot write to", argv[2]);
+    return 0;
+}
