@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+// A host that loads the drawing library while it runs, and lets it go.
+#include "support/SharedLibrary.h"
+
+#include "Platform/Platform.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using vq::test::bytesInUse;
+using vq::test::SharedLibrary;
+
+constexpr int kLoads = 100;
+
+TEST(LoadedLibrary, IsGoneFromMemoryWhenItIsUnloaded)
+{
+    ASSERT_FALSE(SharedLibrary::isInMemory(VQDRAW_LIBRARY));
+    {
+        const SharedLibrary library(VQDRAW_LIBRARY);
+        EXPECT_TRUE(SharedLibrary::isInMemory(VQDRAW_LIBRARY));
+    }
+    EXPECT_FALSE(SharedLibrary::isInMemory(VQDRAW_LIBRARY));
+}
+
+TEST(LoadedLibrary, StartsAndShutsDownOnceEachTime)
+{
+    const AFX_MODULE_RUNS before = AfxGetModuleRuns();
+    for (int i = 1; i <= kLoads; ++i) {
+        {
+            const SharedLibrary library(VQDRAW_LIBRARY);
+            ASSERT_EQ(AfxGetModuleRuns().started, before.started + i);
+            ASSERT_EQ(AfxGetModuleRuns().stopped, before.stopped + i - 1);
+        }
+        ASSERT_EQ(AfxGetModuleRuns().stopped, before.stopped + i);
+    }
+}
+
+TEST(LoadedLibrary, LeavesNothingBehindHoweverOftenItIsLoaded)
+{
+    for (int i = 0; i < kLoads / 10; ++i) // the loader's own tables reach their size
+        const SharedLibrary library(VQDRAW_LIBRARY);
+
+    const std::size_t before = bytesInUse();
+    for (int i = 0; i < kLoads; ++i)
+        const SharedLibrary library(VQDRAW_LIBRARY);
+
+    EXPECT_LE(bytesInUse(), before);
+}
+
+} // namespace

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+/// @file
+/// Loading and unloading a shared library while the program runs, and the memory that is in use meanwhile.
+
+#include <cstddef>
+#include <string>
+
+namespace vq::test {
+
+/// A library in use by the loader for as long as this object lives.
+class SharedLibrary
+{
+public:
+    /// Loads `path`, native to the system; throws std::runtime_error with the loader's reason when it cannot.
+    explicit SharedLibrary(const std::string& path);
+    ~SharedLibrary();
+    SharedLibrary(const SharedLibrary&) = delete;
+    SharedLibrary& operator=(const SharedLibrary&) = delete;
+
+    /// Whether the process holds the library, whoever has loaded it.
+    static bool isInMemory(const std::string& path);
+
+private:
+    void* m_handle;
+};
+
+/// Bytes that the program holds from its heap.
+std::size_t bytesInUse();
+
+} // namespace vq::test
