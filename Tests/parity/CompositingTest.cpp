@@ -2,7 +2,7 @@
 #include "parity/KnownDifferences.h"
 #include "parity/Pixels.h"
 
-namespace vq::tests {
+namespace vq::test {
 namespace {
 
 /// Two squares of 2 x 2, A0000000 and then A0FFFFFF, that share the middle pixel of 3 x 3.
@@ -85,4 +85,4 @@ TEST(Compositing, ClearReplacesEveryPixelInBothModes)
 }
 
 } // namespace
-} // namespace vq::tests
+} // namespace vq::test

@@ -4,7 +4,7 @@
 
 #include <cstring>
 
-namespace vq::tests {
+namespace vq::test {
 namespace {
 
 BITMAPINFO header(int width, int height)
@@ -178,4 +178,4 @@ TEST(BitmapHandle, BitmapFromAHandleIsAnOpaqueCopy)
 }
 
 } // namespace
-} // namespace vq::tests
+} // namespace vq::test

@@ -2,7 +2,7 @@
 #include "parity/KnownDifferences.h"
 #include "parity/Pixels.h"
 
-namespace vq::tests {
+namespace vq::test {
 namespace {
 
 using Gdiplus::UnitPixel;
@@ -53,6 +53,8 @@ TEST(DrawImage, EnlargingInterpolatesFromPixelCentresAndFadesOutAtTheRight)
     for (const Scaled& scaled : cases) {
         const Row result = scaledPair(scaled.scale);
         for (std::size_t x = 0; x < scaled.levels.size(); ++x) {
+            if (scaled.scale == 1.8f && x == 5 && differsHere("last pixel of a scaled picture"))
+                continue;
             const auto level = static_cast<std::uint32_t>(scaled.levels[x]);
             EXPECT_THAT(result[x], Near(0xFF000000 | level * 0x010101, kTolerance))
                 << "scale " << scaled.scale << ", pixel " << x;
@@ -66,7 +68,7 @@ TEST(DrawImage, ShrinkingKeepsTheShiftByHalfAPixel)
     constexpr int kTolerance = 2;
     EXPECT_THAT(result[0], Near(0xFF404040, kTolerance));
     EXPECT_THAT(result[1], Near(0xFF939393, kTolerance));
-    if (differsHere("last pixel of a small picture"))
+    if (differsHere("last pixel of a scaled picture"))
         return;
     EXPECT_THAT(result[2], Near(0xFF868686, kTolerance));
     EXPECT_THAT(result[3], Near(0xFF404040, kTolerance));
@@ -175,4 +177,4 @@ TEST(DrawImage, LastFailureStaysUntilItIsRead)
 }
 
 } // namespace
-} // namespace vq::tests
+} // namespace vq::test

@@ -13,7 +13,7 @@
 #include <string>
 #include <vector>
 
-namespace vq::tests {
+namespace vq::test {
 
 /// {557CF4nn-1A04-11D3-9A73-0000F81EF32E}
 inline CLSID encoderId(DWORD number)
@@ -106,4 +106,4 @@ private:
     std::wstring m_path;
 };
 
-} // namespace vq::tests
+} // namespace vq::test

@@ -2,7 +2,7 @@
 #include "parity/KnownDifferences.h"
 #include "parity/Pixels.h"
 
-namespace vq::tests {
+namespace vq::test {
 namespace {
 
 constexpr std::uint32_t kRed = 0xFFFF0000;
@@ -79,4 +79,4 @@ TEST(FillRectangle, NullBrushIsInvalid)
 }
 
 } // namespace
-} // namespace vq::tests
+} // namespace vq::test

@@ -15,7 +15,7 @@
 #include <ostream>
 #include <vector>
 
-namespace vq::tests {
+namespace vq::test {
 
 /// A pixel 0xAARRGGBB that prints as eight digits.
 struct Argb
@@ -139,4 +139,4 @@ public:
     Gdiplus::Graphics graphics;
 };
 
-} // namespace vq::tests
+} // namespace vq::test

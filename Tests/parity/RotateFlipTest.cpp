@@ -2,7 +2,7 @@
 #include "parity/KnownDifferences.h"
 #include "parity/Pixels.h"
 
-namespace vq::tests {
+namespace vq::test {
 namespace {
 
 struct Turned
@@ -57,4 +57,4 @@ TEST(RotateFlip, DrawingGoesOnInTheNewSize)
 }
 
 } // namespace
-} // namespace vq::tests
+} // namespace vq::test

@@ -6,7 +6,7 @@
 #include <limits>
 #include <memory>
 
-namespace vq::tests {
+namespace vq::test {
 namespace {
 
 using namespace Gdiplus;
@@ -87,7 +87,6 @@ TEST(Settings, WhatIsOutOfRangeIsInvalidAndChangesNothing)
     EXPECT_EQ(graphics.SetPageUnit(UnitWorld), InvalidParameter);
     EXPECT_EQ(graphics.SetPageScale(0), InvalidParameter);
     EXPECT_EQ(graphics.SetPageScale(-1), InvalidParameter);
-    EXPECT_EQ(graphics.SetPageScale(std::numeric_limits<REAL>::infinity()), InvalidParameter);
     EXPECT_EQ(graphics.GetPageUnit(), UnitDisplay);
     EXPECT_EQ(graphics.GetPageScale(), 1.0f);
 }
@@ -99,6 +98,7 @@ TEST(Settings, MoreThatIsOutOfRange)
     Bitmap bitmap(2, 2);
     Graphics graphics(&bitmap);
     EXPECT_EQ(graphics.SetTextContrast(13), InvalidParameter);
+    EXPECT_EQ(graphics.SetPageScale(std::numeric_limits<REAL>::infinity()), InvalidParameter);
     EXPECT_EQ(graphics.SetSmoothingMode(SmoothingModeInvalid), InvalidParameter);
     EXPECT_EQ(graphics.SetPixelOffsetMode(PixelOffsetModeInvalid), InvalidParameter);
     EXPECT_EQ(graphics.SetCompositingMode(std::bit_cast<CompositingMode>(2)), InvalidParameter);
@@ -194,4 +194,4 @@ TEST(Startup, IsCounted)
 }
 
 } // namespace
-} // namespace vq::tests
+} // namespace vq::test

@@ -363,15 +363,16 @@ void CString::splice(int at, int removed, LPCTSTR inserted, int count)
     if (newLength == 0 && capacity == 0)
         return;
     const bool isOwnText = !std::less<>{}(inserted, m_text) && !std::less<>{}(m_text + oldLength, inserted);
-    if (newLength <= capacity && !isOwnText) {
+    if (newLength <= capacity) {
+        const CString aside(inserted, isOwnText ? count : 0);
         std::wmemmove(m_text + at + count, m_text + at + removed, static_cast<std::size_t>(behind));
-        std::copy_n(inserted, count, m_text + at);
+        std::copy_n(isOwnText ? aside.m_text : inserted, count, m_text + at);
         setLength(newLength);
         return;
     }
-    const int grown = capacity == 0 ? 0 : static_cast<int>(std::min<std::int64_t>(kLongest, capacity * 3LL / 2));
+    const std::int64_t grown = removed == oldLength ? 0 : capacity * std::int64_t{3} / 2;
     CString result;
-    result.reserve(std::max(newLength, removed == oldLength ? 0 : grown));
+    result.reserve(static_cast<int>(std::clamp<std::int64_t>(grown, newLength, kLongest)));
     wchar_t* next = std::copy_n(m_text, at, result.m_text);
     next = std::copy_n(inserted, count, next);
     std::copy_n(m_text + at + removed, behind, next);

@@ -48,12 +48,14 @@ CWinApp* AfxGetApp()
 
 HINSTANCE AfxGetInstanceHandle()
 {
-    return AfxGetModuleState()->m_hCurrentInstanceHandle;
+    const HINSTANCE module = AfxGetModuleState()->m_hCurrentInstanceHandle;
+    return module ? module : GetModuleHandleW(nullptr);
 }
 
 HINSTANCE AfxGetResourceHandle()
 {
-    return AfxGetModuleState()->m_hCurrentResourceHandle;
+    const HINSTANCE resources = AfxGetModuleState()->m_hCurrentResourceHandle;
+    return resources ? resources : AfxGetInstanceHandle();
 }
 
 void AfxSetResourceHandle(HINSTANCE resources)

@@ -25,7 +25,9 @@ AFX_MODULE_STATE* AfxGetStaticModuleState();
 VQPLATFORM_API AFX_MODULE_STATE* AfxGetModuleState();
 /// Null when that module has none.
 VQPLATFORM_API CWinApp* AfxGetApp();
+/// That module's handle.
 VQPLATFORM_API HINSTANCE AfxGetInstanceHandle();
+/// Where that module's texts and pictures come from: itself, unless something else was set.
 VQPLATFORM_API HINSTANCE AfxGetResourceHandle();
 VQPLATFORM_API void AfxSetResourceHandle(HINSTANCE resources);
 

@@ -17,7 +17,7 @@ struct Target
 {
     jpeg_destination_mgr manager;
     FileBytes* file;
-    std::array<JOCTET, 64 * 1024> buffer;
+    std::array<JOCTET, std::size_t{64} * 1024> buffer;
 };
 
 void beginBuffer(j_compress_ptr info)

@@ -12,7 +12,7 @@ namespace {
 constexpr std::size_t kSignatureLength = 8;
 
 // Deflate spends two bits at least on a match of 258 bytes, the longest there is.
-constexpr std::int64_t kMaxInflation = 4 * 258;
+constexpr std::int64_t kMaxInflation = std::int64_t{4} * 258;
 
 using Bytes = std::span<const std::uint8_t>;
 

@@ -66,7 +66,7 @@ void Writer::chooseCompression()
     png_set_filter(m_png, PNG_FILTER_TYPE_BASE, PNG_FILTER_SUB);
     png_set_compression_level(m_png, Z_BEST_SPEED);
     png_set_compression_strategy(m_png, Z_RLE);
-    png_set_compression_buffer_size(m_png, 256 * 1024);
+    png_set_compression_buffer_size(m_png, std::size_t{256} * 1024);
 }
 
 bool Writer::write(ConstPixelView pixels, double dpiX, double dpiY, FileBytes& file)

@@ -11,11 +11,6 @@ namespace vq::gdiplus {
 
 namespace {
 
-constexpr float mixedAmount(float first, float second, float weight)
-{
-    return first + (second - first) * weight;
-}
-
 /// Through signed integers, which processors convert in one step.
 constexpr float inFloat(std::uint32_t value)
 {
@@ -107,9 +102,8 @@ void StripRow::fetch(const StripColumns& columns, ConstPixelView image, int y)
     m_hasAmounts = false;
     m_isOpaque = columns.isInside && isWithin(y, image);
     for (std::size_t begin = 0; m_isOpaque && begin < columns.count(); begin += kColumnBlock)
-        m_isOpaque =
-            mixColumns(image.row(y), columns.index.data() + begin, columns.laneWeight.data() + 4 * begin,
-                               std::min(columns.count() - begin, kColumnBlock), m_lanes.data() + 4 * begin);
+        m_isOpaque = mixColumns(image.row(y), columns.index.data() + begin, columns.laneWeight.data() + 4 * begin,
+                                std::min(columns.count() - begin, kColumnBlock), m_lanes.data() + 4 * begin);
 }
 
 void StripRow::fetchAmounts(const StripColumns& columns, ConstPixelView image)
@@ -126,16 +120,16 @@ void StripRow::fetchAmounts(const StripColumns& columns, ConstPixelView image)
     for (std::size_t begin = 0; begin < columns.count(); begin += kColumnBlock) {
         const std::size_t count = std::min(columns.count() - begin, kColumnBlock);
         gather(columns, image, m_y, begin, count, pairs);
-        const float* weights = columns.weight.data() + begin;
         for (std::size_t i = 0; i < count; ++i) {
             const Pixel first = pairs.first[i];
             const Pixel second = pairs.second[i];
-            const float firstAlpha = inFloat(alphaOf(first));
-            const float secondAlpha = inFloat(alphaOf(second));
-            const auto amount = [=, weight = weights[i]](std::uint32_t a, std::uint32_t b) {
-                return mixedAmount(inFloat(a) * firstAlpha, inFloat(b) * secondAlpha, weight);
+            const float weight = columns.weight[begin + i];
+            const float firstAlpha = inFloat(alphaOf(first)) * (1 - weight);
+            const float secondAlpha = inFloat(alphaOf(second)) * weight;
+            const auto amount = [=](std::uint32_t a, std::uint32_t b) {
+                return inFloat(a) * firstAlpha + inFloat(b) * secondAlpha;
             };
-            m_alpha[begin + i] = mixedAmount(firstAlpha, secondAlpha, weights[i]);
+            m_alpha[begin + i] = firstAlpha + secondAlpha;
             m_red[begin + i] = amount(redOf(first), redOf(second));
             m_green[begin + i] = amount(greenOf(first), greenOf(second));
             m_blue[begin + i] = amount(blueOf(first), blueOf(second));
@@ -155,11 +149,15 @@ void StripRow::mixOpaque(const StripRow& upper, const StripRow& lower, std::uint
 void StripRow::mixAny(const StripRow& upper, const StripRow& lower, std::uint16_t weight, std::span<Pixel> result)
 {
     constexpr float kNoDivisionByZero = 1e-30F; // nothing beside the smallest alpha, 2^-32
-    const float share = inUnits(weight);
+    const float lowerShare = inUnits(weight);
+    const float upperShare = 1 - lowerShare;
     for (std::size_t i = 0; i < result.size(); ++i) {
-        const float alpha = mixedAmount(upper.m_alpha[i], lower.m_alpha[i], share);
+        const float alpha = upper.m_alpha[i] * upperShare + lower.m_alpha[i] * lowerShare;
         const float reciprocal = 1 / (alpha + kNoDivisionByZero);
-        const auto channel = [=](float a, float b) { return nearest(mixedAmount(a, b, share) * reciprocal); };
+        const auto channel = [u = upperShare * reciprocal, l = lowerShare * reciprocal](float upperAmount,
+                                                                                        float lowerAmount) {
+            return nearest(upperAmount * u + lowerAmount * l);
+        };
         const std::uint32_t wholeAlpha = nearest(alpha);
         const Pixel visible = wholeAlpha == 0 ? 0 : ~Pixel{0};
         result[i] =

@@ -224,10 +224,15 @@ TEST_F(Sweep, FloatingPointAgreesWithTheCLibrary)
             value = std::round(mantissa(m_random)) / 4;
         compare(anyField("-+ #0"), "", "eEfFgG"[m_random() % 6], value);
     }
-    for (const double value : {0.0, -0.0, 5e-324, 1e308, 0.00001, 0.0001, 999999.5, 123456.0, 1e6, 0.5, 1.5, 2.5})
+    for (const double value : {0.0, -0.0, 5e-324, 1e308, 0.00001, 0.0001, 123456.0, 1e6, 0.5, 1.5, 2.5})
         for (const char* field : {"", "#", "#.0", ".0", ".1", "#.3", ".20", "020", "+.2"})
             for (const char conversion : {'e', 'f', 'g', 'G'})
                 compare(field, "", conversion, value);
+}
+
+TEST(CStringFormat, AlternateGeneralFormKeepsItsZerosWhenRoundingCarries)
+{
+    EXPECT_EQ(formatted(L"%#g|%g", 999999.5, 999999.5), L"1.00000e+06|1e+06"); // glibc 2.36 drops the zeros
 }
 
 TEST(CStringFormat, HexadecimalFloatsAreReadBackExactly)

@@ -283,6 +283,20 @@ TEST(CStringMemory, TooLongATextThrowsAndChangesNothing)
     EXPECT_EQ(text, L"abc");
 }
 
+TEST(CStringMemory, ChangesThatFitStayInPlaceAlsoWithPartsOfTheString)
+{
+    CString text(L"abcdef");
+    text.Preallocate(100);
+    const LPCTSTR characters = text.GetString();
+    for (int i = 0; i < 1000; ++i) {
+        text.Insert(1, text.GetString() + 3);
+        text.Truncate(6);
+        text = text.GetString() + 1;
+        text.Append(text.GetString(), 1);
+    }
+    EXPECT_EQ(text.GetString(), characters);
+}
+
 TEST(CStringMemory, FreeExtraShrinksAndEmptyReleases)
 {
     CString text(L"a text of some length");

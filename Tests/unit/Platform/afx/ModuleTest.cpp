@@ -77,6 +77,8 @@ TEST(CWinApp, BelongsToTheProgramWhereNoLibraryIsLoading)
         CWinApp app(CString(L"name")); // the name is copied
         EXPECT_EQ(AfxGetApp(), &app);
         EXPECT_STREQ(app.m_pszAppName, L"name");
+        EXPECT_EQ(app.m_hInstance, GetModuleHandleW(nullptr));
+        EXPECT_EQ(AfxGetResourceHandle(), app.m_hInstance);
         EXPECT_TRUE(app.InitInstance());
         EXPECT_EQ(app.ExitInstance(), 0);
     }

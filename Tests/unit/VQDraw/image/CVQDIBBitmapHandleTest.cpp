@@ -3,6 +3,7 @@
 #include "support/Pictures.h"
 
 #include <cstdlib>
+#include <memory>
 
 namespace vq::test {
 namespace {

@@ -68,6 +68,7 @@ TEST(CVQDIBSharedPixels, TheBufferShowsWhatTheGraphicsDraws)
 TEST(CVQDIBSharedPixels, TheGraphicsBlendsOverWhatIsInTheBuffer)
 {
     CVQDIB image(2, 1);
+    image.EnableAntialias(false);
     paint(image, {0xFF000000, 0x00000000});
     const Gdiplus::SolidBrush halfRed(Gdiplus::Color(0x80FF0000));
 

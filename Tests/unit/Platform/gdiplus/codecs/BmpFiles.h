@@ -4,7 +4,7 @@
 /// @file
 /// Small BMP files, byte for byte.
 
-#include "Support.h"
+#include "unit/Platform/gdiplus/codecs/Support.h"
 
 namespace vq::test {
 

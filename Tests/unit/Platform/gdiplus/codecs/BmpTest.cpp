@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/gdiplus/codecs/Bmp.h"
 
-#include "BmpFiles.h"
+#include "unit/Platform/gdiplus/codecs/BmpFiles.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/gdiplus/codecs/Codecs.h"
 
-#include "BmpFiles.h"
-#include "JpegFiles.h"
 #include "Platform/gdiplus/codecs/FileBytes.h"
-#include "PngFiles.h"
+#include "unit/Platform/gdiplus/codecs/BmpFiles.h"
+#include "unit/Platform/gdiplus/codecs/JpegFiles.h"
+#include "unit/Platform/gdiplus/codecs/PngFiles.h"
 
 #include <gtest/gtest.h>
 

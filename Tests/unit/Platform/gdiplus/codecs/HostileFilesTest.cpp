@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 // Files that are cut, damaged or lie about their size. Whatever comes, a decoder answers with a picture that holds
 // together or with none; AddressSanitizer watches, as each file lies in a block of exactly its size.
-#include "BmpFiles.h"
-#include "JpegFiles.h"
 #include "Platform/gdiplus/codecs/Bmp.h"
 #include "Platform/gdiplus/codecs/Codecs.h"
 #include "Platform/gdiplus/codecs/Jpeg.h"
 #include "Platform/gdiplus/codecs/Png.h"
-#include "PngFiles.h"
+#include "unit/Platform/gdiplus/codecs/BmpFiles.h"
+#include "unit/Platform/gdiplus/codecs/JpegFiles.h"
+#include "unit/Platform/gdiplus/codecs/PngFiles.h"
 
 #include <gtest/gtest.h>
 

@@ -4,7 +4,7 @@
 /// @file
 /// JPEG files of every kind, written and read by plain calls of libjpeg.
 
-#include "Support.h"
+#include "unit/Platform/gdiplus/codecs/Support.h"
 
 #include <cstdio>
 #include <cstdlib>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/gdiplus/codecs/Jpeg.h"
 
-#include "JpegFiles.h"
+#include "unit/Platform/gdiplus/codecs/JpegFiles.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

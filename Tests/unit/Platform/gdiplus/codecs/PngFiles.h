@@ -4,7 +4,7 @@
 /// @file
 /// PNG files of every kind, written by plain calls of libpng.
 
-#include "Support.h"
+#include "unit/Platform/gdiplus/codecs/Support.h"
 
 #include <png.h>
 

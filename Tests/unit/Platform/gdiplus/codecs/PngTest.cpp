@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/gdiplus/codecs/Png.h"
 
-#include "PngFiles.h"
+#include "unit/Platform/gdiplus/codecs/PngFiles.h"
 
 #include <gtest/gtest.h>
 
