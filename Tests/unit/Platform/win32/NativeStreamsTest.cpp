@@ -105,6 +105,17 @@ TEST(StreamOfThisLayer, FillsWithZerosWhatLiesBehindItsOldEnd)
     EXPECT_EQ(content, (std::array<char, 7>{'a', 'b', 0, 0, 0, 0, 'x'}));
 }
 
+TEST(StreamOfThisLayer, ReadsNothingFarBehindItsEnd)
+{
+    OwnStream stream;
+    stream->Write("hello", 5, nullptr);
+    stream->Seek(LARGE_INTEGER{.QuadPart = 1000}, STREAM_SEEK_SET, nullptr);
+    std::array<char, 4> buffer{};
+    ULONG count = 9;
+    EXPECT_EQ(stream->Read(buffer.data(), 4, &count), S_OK);
+    EXPECT_EQ(count, 0u);
+}
+
 TEST(StreamOfThisLayer, RefusesNullBuffers)
 {
     OwnStream stream;

@@ -153,7 +153,7 @@ TEST(Rectangles, RefuseNullWithoutHarm)
     EXPECT_FALSE(InflateRect(nullptr, 1, 1));
     EXPECT_FALSE(IntersectRect(&rect, nullptr, &rect));
     EXPECT_FALSE(UnionRect(nullptr, &rect, &rect));
-    EXPECT_FALSE(SubtractRect(&rect, &rect, nullptr));
+    EXPECT_FALSE(SubtractRect(nullptr, &rect, &rect));
     EXPECT_FALSE(EqualRect(nullptr, &rect));
     EXPECT_THAT(rect, Is(kUntouched));
 }

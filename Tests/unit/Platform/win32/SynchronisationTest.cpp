@@ -68,14 +68,12 @@ TEST(CriticalSectionWithSpinCount, IsMadeLikeAnyOther)
 
 TEST(LastError, BelongsToItsThread)
 {
-    SetLastError(5);
-    DWORD seenElsewhere = 5;
-    std::thread([&] {
-        seenElsewhere = GetLastError();
-        SetLastError(6);
-    }).join();
-    EXPECT_EQ(seenElsewhere, 0u);
-    EXPECT_EQ(GetLastError(), 5u);
+    SetLastError(0xABCDE);
+    const DWORD here = GetLastError();
+    DWORD elsewhere = here;
+    std::thread([&] { elsewhere = GetLastError(); }).join();
+    EXPECT_EQ(here, 0xABCDEu);
+    EXPECT_NE(elsewhere, 0xABCDEu);
 }
 
 TEST(ResultCodes, TellSuccessFromFailure)
