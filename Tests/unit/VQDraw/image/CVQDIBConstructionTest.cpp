@@ -12,8 +12,6 @@
 namespace vq::test {
 namespace {
 
-using vq::tests::differsHere;
-
 using Access = VQTestAccess;
 
 constexpr ULONG kRed = 0xFFFF0000;

@@ -6,8 +6,6 @@
 namespace vq::test {
 namespace {
 
-using vq::tests::differsHere;
-
 constexpr COLORREF kBefore = RGB(0x20, 0x40, 0x60);
 constexpr ULONG kBeforeColour = 0x00204060;
 constexpr int kLeft = 30;

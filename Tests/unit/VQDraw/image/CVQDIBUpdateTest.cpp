@@ -10,8 +10,6 @@
 namespace vq::test {
 namespace {
 
-using vq::tests::differsHere;
-
 constexpr LONG kWidth = 7;
 constexpr LONG kHeight = 5;
 constexpr ULONG kBackground = 0x00507090;
