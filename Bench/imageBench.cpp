@@ -48,7 +48,7 @@ struct Fixture
 template <typename Work>
 void add(const std::string& work, Size size, const std::string& who, Work body)
 {
-    benchmark::RegisterBenchmark((work + "/" + size.name() + "/" + who).c_str(), [size, body](benchmark::State& state) {
+    benchmark::RegisterBenchmark((work + "/" + size.name() + "/" + who).c_str(), [size, body](benchmark::State& state) mutable {
         Fixture fixture(size);
         for (auto _ : state) {
             body(fixture);

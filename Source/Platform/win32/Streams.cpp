@@ -89,7 +89,7 @@ private:
     }
 
     std::mutex m_mutex; // between clones
-    HGLOBAL m_handle;
+    std::atomic<HGLOBAL> m_handle;
     bool m_freeAtEnd = false;
 };
 

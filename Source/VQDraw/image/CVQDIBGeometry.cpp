@@ -74,8 +74,8 @@ void CVQDIB::Rotate(Gdiplus::RotateFlipType type)
     const auto view = [](ULONG* pixels, LONG w, LONG h) {
         return vq::gdiplus::PixelView{reinterpret_cast<BYTE*>(pixels), std::ptrdiff_t{w} * kPixelBytes, w, h};
     };
-    vq::gdiplus::rotateFlip(view(m_pImageBuffer, m_iWidth, m_iHeight), view(turned.get(), width, height), turn);
-    std::transform(turned.get(), turned.get() + m_iPixelCount, turned.get(), vq::zeroIfTransparent);
+    vq::gdiplus::rotateFlip(view(m_pImageBuffer, m_iWidth, m_iHeight), view(turned.get(), width, height), turn,
+                            [](vq::Pixel pixel) { return vq::zeroIfTransparent(pixel); });
     Destroy();
     Adopt(turned.release(), width, height);
 }

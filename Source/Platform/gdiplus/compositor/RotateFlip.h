@@ -47,15 +47,18 @@ struct alignas(64) Tile
     Pixel rows[kTileColumns][kStripRows];
 };
 
-inline void transposeBlockOfFour(const Pixel* const (&from)[4], int column, Tile& tile, int tileRow, int tileColumn)
+template <typename Formula>
+void transposeBlockOfFour(const Pixel* const (&from)[4], int column, Tile& tile, int tileRow, int tileColumn,
+                          Formula formula)
 {
     for (int y = 0; y < 4; ++y)
         for (int x = 0; x < 4; ++x)
-            tile.rows[tileRow + y][tileColumn + x] = from[x][column + y];
+            tile.rows[tileRow + y][tileColumn + x] = formula(from[x][column + y]);
 }
 
 /// Turns `columns` columns (a multiple of 4, at most kTileColumns) of the 16 source rows from `row` on.
-inline void fillTile(ConstPixelView from, int row, int column, int columns, Tile& tile)
+template <typename Formula>
+void fillTile(ConstPixelView from, int row, int column, int columns, Tile& tile, Formula formula)
 {
     for (int x = 0; x < kStripRows; x += 4) {
         const Pixel* const rows[4] = {from.row(row + x), from.row(row + x + 1), from.row(row + x + 2),
@@ -64,7 +67,7 @@ inline void fillTile(ConstPixelView from, int row, int column, int columns, Tile
             for (int ahead = column + columns; ahead < std::min(column + 2 * columns, from.width); ahead += 16)
                 __builtin_prefetch(source + ahead);
         for (int y = 0; y < columns; y += 4)
-            transposeBlockOfFour(rows, column + y, tile, y, x);
+            transposeBlockOfFour(rows, column + y, tile, y, x, formula);
     }
 }
 
@@ -96,15 +99,17 @@ inline bool worthStreaming(PixelView to)
            reinterpret_cast<std::uintptr_t>(to.top) % 16 == 0 && to.stride % 16 == 0;
 }
 
-inline void transposePixelByPixel(ConstPixelView from, PixelView to, int firstX, int firstY)
+template <typename Formula>
+void transposePixelByPixel(ConstPixelView from, PixelView to, int firstX, int firstY, Formula formula)
 {
     for (int y = firstY; y < to.height; ++y)
         for (int x = firstX; x < to.width; ++x)
-            to.row(y)[x] = from.row(x)[y];
+            to.row(y)[x] = formula(from.row(x)[y]);
 }
 
 /// Result (x, y) is source (y, x). Strips of 16 source rows become columns of one cache line each, tile by tile.
-inline void transpose(ConstPixelView from, PixelView to)
+template <typename Formula>
+void transpose(ConstPixelView from, PixelView to, Formula formula)
 {
     const int wholeColumns = to.width / kStripRows * kStripRows;
     const int wholeRows = to.height / 4 * 4;
@@ -113,7 +118,7 @@ inline void transpose(ConstPixelView from, PixelView to)
     for (int x = 0; x < wholeColumns; x += kStripRows)
         for (int y = 0; y < wholeRows; y += kTileColumns) {
             const int count = std::min(kTileColumns, wholeRows - y);
-            fillTile(from, x, y, count, tile);
+            fillTile(from, x, y, count, tile, formula);
             for (int i = 0; i < count; ++i) {
                 Pixel* target = to.row(y + i) + x;
                 if (streams)
@@ -124,8 +129,8 @@ inline void transpose(ConstPixelView from, PixelView to)
         }
     if (streams)
         finishStreaming();
-    transposePixelByPixel(from, {to.top, to.stride, to.width, wholeRows}, wholeColumns, 0);
-    transposePixelByPixel(from, to, 0, wholeRows);
+    transposePixelByPixel(from, {to.top, to.stride, to.width, wholeRows}, wholeColumns, 0, formula);
+    transposePixelByPixel(from, to, 0, wholeRows, formula);
 }
 
 /// Rows counted from the other end cost nothing: the view starts at its last row and walks upwards.
@@ -137,22 +142,25 @@ View upsideDown(View view)
 
 } // namespace detail
 
-/// Turns `from` into `to`, whose width and height are exchanged when the turn transposes. Any 32-bit pixels will do;
-/// the two views do not overlap. Sizes are at least 1.
-inline void rotateFlip(ConstPixelView from, PixelView to, Turn turn)
+/// The formula of a turn that leaves pixels as they are.
+inline constexpr auto unchanged = [](Pixel pixel) { return pixel; };
+
+/// Turns `from` into `to`, whose width and height are exchanged when the turn transposes, and applies a formula to
+/// every pixel on the way. Any 32-bit pixels will do; the two views do not overlap. Sizes are at least 1.
+template <typename Formula = decltype(unchanged)>
+void rotateFlip(ConstPixelView from, PixelView to, Turn turn, Formula formula = {})
 {
     if (turn.mirrorsRows)
         from = detail::upsideDown(from);
     if (turn.transposes) {
         // The source column is the result row.
-        detail::transpose(from, turn.mirrorsColumns ? detail::upsideDown(to) : to);
+        detail::transpose(from, turn.mirrorsColumns ? detail::upsideDown(to) : to, formula);
         return;
     }
     for (int y = 0; y < to.height; ++y) {
+        std::transform(from.row(y), from.row(y) + from.width, to.row(y), formula);
         if (turn.mirrorsColumns)
-            std::reverse_copy(from.row(y), from.row(y) + from.width, to.row(y));
-        else
-            std::memcpy(to.row(y), from.row(y), static_cast<std::size_t>(from.width) * sizeof(Pixel));
+            std::reverse(to.row(y), to.row(y) + to.width);
     }
 }
 

@@ -20,7 +20,7 @@ FT_Int32 loadFlags(const GlyphStyle& style)
 {
     switch (style.rendering) {
     case GlyphRendering::TwoLevel:
-        return FT_LOAD_NO_BITMAP | FT_LOAD_TARGET_MONO;
+        return FT_LOAD_NO_BITMAP | FT_LOAD_TARGET_MONO | FT_LOAD_FORCE_AUTOHINT;
     case GlyphRendering::HintedGrey:
         return FT_LOAD_NO_BITMAP | FT_LOAD_TARGET_NORMAL;
     case GlyphRendering::SmoothGrey:

@@ -1,7 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "Platform/win32/Errors.h"
-#include "Platform/win32/Files.h"
-#include "Platform/win32/Modules.h"
 #include "Platform/win32/Strings.h"
 
 #include <gtest/gtest.h>
@@ -93,24 +90,6 @@ TEST(FaceName, EndsAtTheFirstZero)
     LOGFONTW font{};
     setFaceName(font, std::wstring_view(L"ab\0cd", 5));
     EXPECT_EQ(faceName(font), L"ab");
-}
-
-TEST(NativePath, TakesBothSeparatorsAndLeavesDriveLettersAlone)
-{
-    EXPECT_EQ(nativePath(L"a\\b/c\\"), "a/b/c/");
-    EXPECT_EQ(nativePath(L"C:\\data\\\u00E9.png"), "C:/data/\xC3\xA9.png");
-    EXPECT_EQ(nativePath(L""), "");
-    EXPECT_EQ(nativePath(nullptr), "");
-}
-
-TEST(GetModuleFileName, TerminatesWhatItCuts)
-{
-    wchar_t cut[4]{L'#', L'#', L'#', L'#'};
-    EXPECT_EQ(GetModuleFileNameW(nullptr, cut, 3), 3u);
-    EXPECT_EQ(cut[2], 0);
-    EXPECT_EQ(GetModuleFileNameW(nullptr, nullptr, 0), 0u);
-    EXPECT_EQ(GetModuleFileNameW(reinterpret_cast<HMODULE>(&cut), cut, 4), 0u);
-    EXPECT_EQ(GetLastError(), ERROR_MOD_NOT_FOUND);
 }
 
 } // namespace
