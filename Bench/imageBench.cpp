@@ -48,13 +48,16 @@ struct Fixture
 template <typename Work>
 void add(const std::string& work, Size size, const std::string& who, Work body)
 {
-    benchmark::RegisterBenchmark((work + "/" + size.name() + "/" + who).c_str(), [size, body](benchmark::State& state) mutable {
-        Fixture fixture(size);
-        for (auto _ : state) {
-            body(fixture);
-            benchmark::ClobberMemory();
-        }
-    })->Unit(benchmark::kMillisecond)->UseRealTime();
+    benchmark::RegisterBenchmark((work + "/" + size.name() + "/" + who).c_str(),
+                                 [size, body](benchmark::State& state) mutable {
+                                     Fixture fixture(size);
+                                     for (auto _ : state) {
+                                         body(fixture);
+                                         benchmark::ClobberMemory();
+                                     }
+                                 })
+        ->Unit(benchmark::kMillisecond)
+        ->UseRealTime();
 }
 
 /// What the memory allows: every pixel read and written, next to nothing done.
@@ -149,8 +152,7 @@ void scaleWithPixman(CVQDIB& target, CVQDIB& source)
                                 pixman_double_to_fixed(static_cast<double>(source.GetHeight()) / target.GetHeight()));
     pixman_image_set_transform(from, &transform);
     pixman_image_set_filter(from, PIXMAN_FILTER_BILINEAR, nullptr, 0);
-    pixman_image_composite32(PIXMAN_OP_SRC, from, nullptr, to, 0, 0, 0, 0, 0, 0, target.GetWidth(),
-                             target.GetHeight());
+    pixman_image_composite32(PIXMAN_OP_SRC, from, nullptr, to, 0, 0, 0, 0, 0, 0, target.GetWidth(), target.GetHeight());
     pixman_image_unref(from);
     pixman_image_unref(to);
 }
@@ -159,8 +161,7 @@ void scaleWithGdiPlus(CVQDIB& target, CVQDIB& source)
 {
     target.GetGraphics()->SetCompositingMode(Gdiplus::CompositingModeSourceCopy);
     target.GetGraphics()->SetCompositingQuality(Gdiplus::CompositingQualityHighQuality);
-    target.GetGraphics()->DrawImage(source.GetBitmap(),
-                                    Gdiplus::Rect(0, 0, target.GetWidth(), target.GetHeight()));
+    target.GetGraphics()->DrawImage(source.GetBitmap(), Gdiplus::Rect(0, 0, target.GetWidth(), target.GetHeight()));
 }
 
 void addScaling(const std::string& work, Size targetSize, Size sourceSize, bool opaque)

@@ -87,8 +87,9 @@ bool addSteps(Gallery& gallery, CVQDIB& original)
         picture.Resize(std::max<LONG>(picture.GetWidth() / 2, 1), std::max<LONG>(picture.GetHeight() / 2, 1), true,
                        true);
     });
-    written = addDeviceContext(gallery, original, "Shown four times on a memory device context with "
-                                                  "<code>Update</code>, grabbed with <code>Copy</code>") &&
+    written = addDeviceContext(gallery, original,
+                               "Shown four times on a memory device context with "
+                               "<code>Update</code>, grabbed with <code>Copy</code>") &&
               written;
     step("6-faded", "<code>SaturateScanlineAlpha</code>, row by row", fadeDownwards);
     return addHandle(gallery, image, "The faded picture exported through an <code>HBITMAP</code>: over black") &&

@@ -126,8 +126,8 @@ bool CVQDIB::Adopt(ULONG* pixels, LONG width, LONG height)
 {
     const CSingleLock lock(&_critSect, TRUE);
     m_pImageBuffer = pixels;
-    m_pRowOffset = static_cast<std::int64_t*>(
-        vq::platform::allocateRaw(static_cast<std::size_t>(height) * sizeof(std::int64_t)));
+    m_pRowOffset =
+        static_cast<std::int64_t*>(vq::platform::allocateRaw(static_cast<std::size_t>(height) * sizeof(std::int64_t)));
     if (m_pImageBuffer && m_pRowOffset) {
         const auto stride = static_cast<INT>(width * kPixelBytes);
         m_pBitmap = new Gdiplus::Bitmap(width, height, stride, PixelFormat32bppARGB, GetByteImageBuffer());
