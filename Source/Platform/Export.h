@@ -13,7 +13,8 @@
 #endif
 
 /// Static objects that carry this come into being in rising order of `step` (1 .. 100), before every static object
-/// without it, whatever order the linker puts the files in. Step 1 belongs to afx/ModuleEntry.cpp.
+/// without it, whatever order the linker puts the files in. In a library with a `CWinApp` step 1 belongs to
+/// afx/ModuleEntry.cpp.
 #define VQ_START_ORDER(step) __attribute__((init_priority(200 + (step))))
 
 #if defined(vqPlatform_EXPORTS)

@@ -64,7 +64,7 @@ TEST_P(ModuleEntry, WorksFromOtherThreads)
     std::unique_ptr<SharedLibrary> library;
     std::thread([&] { library = std::make_unique<SharedLibrary>(GetParam()); }).join();
     std::thread([&] { library.reset(); }).join();
-    EXPECT_EQ(std::string(takeEvents()), std::string(kLoadEvents) + kUnloadEvents);
+    EXPECT_EQ(std::string(takeEvents()), std::string(kLoadEvents).append(kUnloadEvents));
 }
 
 INSTANTIATE_TEST_SUITE_P(LinkOrders, ModuleEntry,
