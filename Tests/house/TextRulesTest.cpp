@@ -56,6 +56,14 @@ TEST(TextCheck, FindsTabsBlanksAtTheEndAndLongLines)
     EXPECT_THAT(blankFaults({"Source/A.cpp", {"int a;"}, false}), SizeIs(1));
 }
 
+TEST(TextCheck, LetsRowsOfAnUnformattedTableBeLong)
+{
+    const std::string row(200, 'a');
+
+    EXPECT_THAT(blankFaults({"Source/A.h", {"// clang-format off", row, "// clang-format on"}}), IsEmpty());
+    EXPECT_THAT(blankFaults({"Source/A.h", {"// clang-format off", "// clang-format on", row}}), SizeIs(1));
+}
+
 TEST(TextCheck, CountsCharactersNotBytes)
 {
     std::string line;

@@ -21,7 +21,9 @@ TEST(ImageEncoders, AreBmpJpegGifTiffAndPngInThatOrder)
     ASSERT_EQ(Gdiplus::GetImageEncoders(count, size, encoders), Gdiplus::Ok);
 
     const std::pair<DWORD, const wchar_t*> expected[] = {
-        {kBmp, L"image/bmp"}, {kJpeg, L"image/jpeg"}, {kGif, L"image/gif"}, {kTiff, L"image/tiff"}, {kPng, L"image/png"}};
+        {kBmp, L"image/bmp"}, {kJpeg, L"image/jpeg"}, {kGif, L"image/gif"},
+        {kTiff, L"image/tiff"}, {kPng, L"image/png"},
+    };
     for (UINT i = 0; i < count; ++i) {
         EXPECT_STREQ(encoders[i].MimeType, expected[i].second);
         EXPECT_TRUE(encoders[i].Clsid == encoderId(expected[i].first)) << i;
@@ -35,7 +37,8 @@ TEST(ImageEncoders, AreBmpJpegGifTiffAndPngInThatOrder)
 }
 
 /// What a bitmap answers that was to be read from something that is no picture.
-const Gdiplus::Status kUndecodable = differsHere("bitmap from a bad file") ? Gdiplus::GenericError : Gdiplus::InvalidParameter;
+const Gdiplus::Status kUndecodable =
+    differsHere("bitmap from a bad file") ? Gdiplus::GenericError : Gdiplus::InvalidParameter;
 
 TEST(ImageFiles, WhatCannotBeDecodedBreaksTheBitmap)
 {

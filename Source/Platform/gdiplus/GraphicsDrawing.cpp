@@ -88,11 +88,10 @@ Status Graphics::fill(const Brush* brush, double x, double y, double width, doub
     return withState([&](GraphicsState& state) {
         if (!brush)
             return InvalidParameter;
-        const auto* solid = dynamic_cast<const SolidBrush*>(brush);
-        if (!solid)
+        if (brush->GetType() != BrushTypeSolidColor)
             return NotImplemented;
         Color colour;
-        solid->GetColor(&colour);
+        static_cast<const SolidBrush*>(brush)->GetColor(&colour);
         const auto [across, down] = state.pageFactors();
         return state.draw([&](const Canvas& canvas) {
             fillRectangle(canvas, x * across, y * down, (x + width) * across, (y + height) * down, colour.GetValue());

@@ -2,13 +2,11 @@
 #include "Platform/gdiplus/GraphicsState.h"
 
 #include <algorithm>
+#include <functional>
 #include <vector>
 
 namespace vq::gdiplus {
 namespace {
-
-using Gdiplus::Ok;
-using Gdiplus::Status;
 
 /// The caller's memory without alpha holds anything there, as a device context does.
 SurfaceAlpha alphaOf(const PixelStore& image)
@@ -112,39 +110,37 @@ bool GraphicsState::overlaps(ConstPixelView view) const
     return before(target.first, source.last) && before(source.first, target.last);
 }
 
-Canvas GraphicsState::canvasOver(PixelView view, Blend blend, SurfaceAlpha alpha) const
+OpenCanvas::OpenCanvas(const GraphicsState& state, Blend blend) : m_state(state)
 {
-    return {view, blend, alpha, settings.isSmooth(), settings.hasHalfPixelOffset()};
-}
-
-Status GraphicsState::draw(Blend blend, const std::function<Status(const Canvas&)>& renderer)
-{
-    if (m_image) {
-        if (!m_image->isAlignedWords() || m_image->layout == Layout::Premultiplied)
-            return drawOnCopy(blend, renderer);
-        return renderer(canvasOver(m_image->words(), blend, alphaOf(*m_image)));
+    const auto open = [&](PixelView view, SurfaceAlpha alpha) {
+        m_canvas = Canvas{view, blend, alpha, state.settings.isSmooth(), state.settings.hasHalfPixelOffset()};
+    };
+    if (!state.m_image) {
+        const auto surface = win32::surfaceOf(state.m_context);
+        if (surface && surface->width > 0 && surface->height > 0)
+            open({surface->top, surface->stride, surface->width, surface->height}, SurfaceAlpha::Device);
+        return;
     }
-    const auto surface = win32::surfaceOf(m_context);
-    if (!surface || surface->width <= 0 || surface->height <= 0)
-        return Ok;
-    const PixelView view{surface->top, surface->stride, surface->width, surface->height};
-    return renderer(canvasOver(view, blend, SurfaceAlpha::Device));
+    const PixelStore& image = *state.m_image;
+    const SurfaceAlpha alpha = alphaOf(image);
+    if (image.isAlignedWords() && image.layout != Layout::Premultiplied) {
+        open(image.words(), alpha);
+        return;
+    }
+    const auto format = alpha == SurfaceAlpha::Stored ? PixelFormat32bppARGB : PixelFormat32bppRGB;
+    auto copy = copyPixels(image, image.bounds(), format);
+    m_status = copy.status;
+    m_copy = std::move(copy.pixels);
+    if (m_copy)
+        open(m_copy->words(), alpha);
 }
 
-/// Premultiplied and 24-bit pixels are drawn on as straight ones. Only those that changed are converted back, so that
-/// the others keep every bit.
-Status GraphicsState::drawOnCopy(Blend blend, const std::function<Status(const Canvas&)>& renderer)
+void OpenCanvas::commit() const
 {
-    PixelStore& image = *m_image;
-    const SurfaceAlpha alpha = alphaOf(image);
-    const auto format = alpha == SurfaceAlpha::Stored ? PixelFormat32bppARGB : PixelFormat32bppRGB;
-    const auto copy = copyPixels(image, image.bounds(), format);
-    if (!copy.pixels)
-        return copy.status;
-    const PixelView view = copy.pixels->words();
-    if (const Status status = renderer(canvasOver(view, blend, alpha)); status != Ok)
-        return status;
-
+    if (!m_copy)
+        return;
+    const PixelStore& image = *m_state.m_image;
+    const PixelView view = m_copy->words();
     std::vector<Pixel> original(static_cast<std::size_t>(view.width));
     for (int y = 0; y < view.height; ++y) {
         readRow(image.layout, image.row(y), original);
@@ -152,7 +148,6 @@ Status GraphicsState::drawOnCopy(Blend blend, const std::function<Status(const C
             if (view.row(y)[x] != original[static_cast<std::size_t>(x)])
                 writeRow(image.layout, {view.row(y) + x, 1}, image.at(x, y));
     }
-    return Ok;
 }
 
 } // namespace vq::gdiplus

@@ -9,8 +9,9 @@
 #include "Platform/gdiplus/PixelStore.h"
 #include "Platform/win32/Surface.h"
 
-#include <functional>
 #include <memory>
+#include <optional>
+#include <utility>
 
 namespace vq::gdiplus {
 
@@ -62,6 +63,29 @@ private:
     platform::PixelMemory<std::uint8_t> m_memory;
 };
 
+class GraphicsState;
+
+/// The surface as a canvas, for one call. Premultiplied and 24-bit pixels are drawn on as straight ones, in a copy.
+class OpenCanvas
+{
+public:
+    OpenCanvas(const GraphicsState& state, Blend blend);
+
+    /// Whether there is anything to draw on.
+    explicit operator bool() const { return m_canvas.has_value(); }
+    /// Why there is nothing: Ok for a surface without pixels.
+    Gdiplus::Status status() const { return m_status; }
+    const Canvas& operator*() const { return *m_canvas; }
+    /// Converts a copy back. Pixels that did not change keep every bit.
+    void commit() const;
+
+private:
+    const GraphicsState& m_state;
+    std::optional<Canvas> m_canvas;
+    Pixels m_copy;
+    Gdiplus::Status m_status = Gdiplus::Ok;
+};
+
 class GraphicsState
 {
 public:
@@ -84,16 +108,26 @@ public:
     bool overlaps(ConstPixelView view) const;
 
     /// Runs a renderer on the surface, with the blend given. A surface without pixels takes everything and shows
-    /// nothing.
-    Gdiplus::Status draw(Blend blend, const std::function<Gdiplus::Status(const Canvas&)>& renderer);
-    Gdiplus::Status draw(const std::function<Gdiplus::Status(const Canvas&)>& renderer)
+    /// nothing. The renderer is given a Canvas and answers a status.
+    template <typename Renderer>
+    Gdiplus::Status draw(Blend blend, Renderer&& renderer) const
     {
-        return draw(settings.blend(), renderer);
+        OpenCanvas canvas(*this, blend);
+        if (!canvas)
+            return canvas.status();
+        const Gdiplus::Status status = renderer(*canvas);
+        if (status == Gdiplus::Ok)
+            canvas.commit();
+        return status;
+    }
+    template <typename Renderer>
+    Gdiplus::Status draw(Renderer&& renderer) const
+    {
+        return draw(settings.blend(), std::forward<Renderer>(renderer));
     }
 
 private:
-    Canvas canvasOver(PixelView view, Blend blend, SurfaceAlpha alpha) const;
-    Gdiplus::Status drawOnCopy(Blend blend, const std::function<Gdiplus::Status(const Canvas&)>& renderer);
+    friend class OpenCanvas;
 
     Pixels m_image; ///< empty for a device context
     HDC m_context = nullptr;

@@ -206,9 +206,10 @@ Gdiplus::Status rotateFlipPixels(PixelStore& store, Gdiplus::RotateFlipType type
     const int height = turn.transposes ? from.width : from.height;
     const auto stride = static_cast<std::ptrdiff_t>(width) * static_cast<std::ptrdiff_t>(sizeof(Pixel));
     const PixelView to{memory.get(), stride, width, height};
-    rotateFlip(from, to, turn);
     if (source.layout == Layout::Opaque && !source.memory)
-        makeOpaque(to, {0, 0, width, height});
+        rotateFlip(from, to, turn, [](Pixel pixel) { return pixel | kAlphaBits; });
+    else
+        rotateFlip(from, to, turn);
 
     store.layout = source.layout;
     store.width = width;

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <random>
 
 namespace {
 
@@ -18,7 +19,7 @@ protected:
         wchar_t name[85] = {};
         ASSERT_GT(GetUserDefaultLocaleName(name, 85), 0);
         language = name;
-        folder = fs::temp_directory_path() / ("vq-locale-" + std::to_string(reinterpret_cast<std::uintptr_t>(this)));
+        folder = fs::temp_directory_path() / ("vq-locale-" + std::to_string(std::random_device()()));
         fs::create_directories(folder);
         const fs::path original = LOCALE_MODULE;
         const fs::path copy = folder / original.filename();

@@ -3,8 +3,8 @@
 
 /// @file
 /// `mixColumnsPortable` for x86: the pixels of two columns go from memory to their lanes without a stop in between,
-/// which no compiler makes of the portable loop. An opaque picture enlarged from 1920 x 1080 to 3840 x 2160 takes 8.8 ms
-/// instead of 10.7 ms (GCC 12, SSE2; 8.7 instead of 9.7 in the build for x86-64-v3).
+/// which no compiler makes of the portable loop. An opaque picture enlarged from 1920 x 1080 to 3840 x 2160 takes 8.8
+/// ms instead of 10.7 ms (GCC 12, SSE2; 8.7 instead of 9.7 in the build for x86-64-v3).
 
 #include "Platform/gdiplus/compositor/MixColumns.h"
 
