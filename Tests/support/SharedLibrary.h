@@ -26,7 +26,8 @@ private:
     void* m_handle;
 };
 
-/// Bytes that the program holds from its heap.
+/// Bytes that the program holds from its heap. Always 0 under AddressSanitizer, which keeps a note of every destructor
+/// that a loaded library registers (measured with GCC 12: 32 bytes each); there LeakSanitizer judges at the program's end.
 std::size_t bytesInUse();
 
 } // namespace vq::test

@@ -7,7 +7,7 @@
 
 namespace {
 
-vq::test::SharedLibrary* library = nullptr; // never unloaded, on purpose
+vq::test::SharedLibrary* volatile library = nullptr; // never unloaded, on purpose; volatile, or nothing would hold it
 
 } // namespace
 
