@@ -27,7 +27,8 @@ private:
 };
 
 /// Bytes that the program holds from its heap. Always 0 under AddressSanitizer, which keeps a note of every destructor
-/// that a loaded library registers (measured with GCC 12: 32 bytes each); there LeakSanitizer judges at the program's end.
+/// that a loaded library registers (measured with GCC 12: 32 bytes each); there LeakSanitizer judges at the program's
+/// end.
 std::size_t bytesInUse();
 
 } // namespace vq::test
