@@ -2,6 +2,7 @@
 #include "Platform/gdiplus/Brush.h"
 
 #include "Platform/gdiplus/Started.h"
+#include "Platform/gdiplus/brushes/Shader.h"
 
 #include <utility>
 
@@ -66,6 +67,11 @@ Status SolidBrush::SetColor(const Color& color)
         m_color = color;
         return Ok;
     }));
+}
+
+std::optional<vq::gdiplus::Shader> SolidBrush::shader(const vq::gdiplus::ShadingSettings&) const
+{
+    return vq::gdiplus::SolidShader{m_color.GetValue()};
 }
 
 } // namespace Gdiplus

@@ -9,10 +9,19 @@
 #include "Platform/gdiplus/Color.h"
 #include "Platform/gdiplus/Enums.h"
 
+#include <optional>
+
+namespace vq::gdiplus {
+class Shader;
+struct ShadingSettings;
+} // namespace vq::gdiplus
+
 namespace Gdiplus {
 
 class VQPLATFORM_API Brush : public GdiplusBase
 {
+    friend class Graphics;
+
 public:
     virtual ~Brush();
     Brush(const Brush&) = delete;
@@ -32,6 +41,9 @@ protected:
     mutable Status m_lastStatus;
 
 private:
+    /// The brush on a surface; none when there is nothing to fill with, as after a creation that failed.
+    virtual std::optional<vq::gdiplus::Shader> shader(const vq::gdiplus::ShadingSettings& settings) const = 0;
+
     BrushType m_type;
 };
 
@@ -45,6 +57,8 @@ public:
     Status SetColor(const Color& color);
 
 private:
+    std::optional<vq::gdiplus::Shader> shader(const vq::gdiplus::ShadingSettings& settings) const override;
+
     Color m_color;
 };
 

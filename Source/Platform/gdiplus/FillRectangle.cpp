@@ -44,29 +44,29 @@ Channel toChannel(double share)
     return static_cast<Channel>(std::lround(share * 255));
 }
 
-void fillAliased(const Canvas& canvas, double left, double top, double right, double bottom, Pixel colour)
+void fillAliased(const Painter& painter, double left, double top, double right, double bottom)
 {
-    const Range columns = centresInside(left, right, canvas.view.width);
-    const Range rows = centresInside(top, bottom, canvas.view.height);
+    const PixelView& view = painter.canvas().view;
+    const Range columns = centresInside(left, right, view.width);
+    const Range rows = centresInside(top, bottom, view.height);
     if (columns.length() == 0)
         return;
     for (int y = rows.first; y < rows.last; ++y)
-        onRun(canvas, canvas.run(columns.first, y, columns.length()),
-              [&](std::span<Pixel> run) { compositeColour(run, colour, canvas.blend); });
+        painter.run(columns.first, y, columns.length());
 }
 
-void fillSmooth(const Canvas& canvas, double left, double top, double right, double bottom, Pixel colour)
+void fillSmooth(const Painter& painter, double left, double top, double right, double bottom)
 {
-    const Range columns = touched(left, right, canvas.view.width);
-    const Range rows = touched(top, bottom, canvas.view.height);
+    const PixelView& view = painter.canvas().view;
+    const Range columns = touched(left, right, view.width);
+    const Range rows = touched(top, bottom, view.height);
     // All columns that are covered in full lie between these two.
     const Range whole{std::max(columns.first, clampedToInt(std::ceil(left + 0.5), columns.last)),
                       std::min(columns.last, clampedToInt(std::floor(right - 0.5) + 1, columns.last))};
     const auto fill = [&](int x, int y, int length, double share) {
         const Channel covered = toChannel(share);
         if (length > 0 && covered != 0)
-            onRun(canvas, canvas.run(x, y, length),
-                  [&](std::span<Pixel> run) { compositeColour(run, colour, covered, canvas.blend); });
+            painter.run(x, y, length, covered);
     };
     for (int y = rows.first; y < rows.last; ++y) {
         const double rowShare = coverage(y, top, bottom);
@@ -80,8 +80,9 @@ void fillSmooth(const Canvas& canvas, double left, double top, double right, dou
 
 } // namespace
 
-void fillRectangle(const Canvas& canvas, double left, double top, double right, double bottom, Pixel colour)
+void fillRectangle(const Painter& painter, double left, double top, double right, double bottom)
 {
+    const Canvas& canvas = painter.canvas();
     left = canvas.toCentred(left);
     top = canvas.toCentred(top);
     right = canvas.toCentred(right);
@@ -89,9 +90,9 @@ void fillRectangle(const Canvas& canvas, double left, double top, double right, 
     if (!(left < right) || !(top < bottom))
         return;
     if (canvas.smooth)
-        fillSmooth(canvas, left, top, right, bottom, colour);
+        fillSmooth(painter, left, top, right, bottom);
     else
-        fillAliased(canvas, left, top, right, bottom, colour);
+        fillAliased(painter, left, top, right, bottom);
 }
 
 } // namespace vq::gdiplus

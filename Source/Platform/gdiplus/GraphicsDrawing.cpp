@@ -13,6 +13,7 @@ using vq::gdiplus::Blend;
 using vq::gdiplus::Canvas;
 using vq::gdiplus::FloatRect;
 using vq::gdiplus::GraphicsState;
+using vq::gdiplus::Painter;
 using vq::gdiplus::SurfaceAlpha;
 
 namespace {
@@ -86,15 +87,12 @@ Status Graphics::Clear(const Color& color)
 Status Graphics::fill(const Brush* brush, double x, double y, double width, double height)
 {
     return withState([&](GraphicsState& state) {
-        if (!brush)
+        const auto shader = brush ? brush->shader(state.shading()) : std::nullopt;
+        if (!shader)
             return InvalidParameter;
-        if (brush->GetType() != BrushTypeSolidColor)
-            return NotImplemented;
-        Color colour;
-        static_cast<const SolidBrush*>(brush)->GetColor(&colour);
         const auto [across, down] = state.pageFactors();
         return state.draw([&](const Canvas& canvas) {
-            fillRectangle(canvas, x * across, y * down, (x + width) * across, (y + height) * down, colour.GetValue());
+            fillRectangle(Painter(canvas, *shader), x * across, y * down, (x + width) * across, (y + height) * down);
             return Ok;
         });
     });

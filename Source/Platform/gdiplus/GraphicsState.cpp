@@ -93,6 +93,12 @@ Resolution GraphicsState::pageFactors() const
             settings.pageScale * pixelsPer(settings.pageUnit, dots.y)};
 }
 
+ShadingSettings GraphicsState::shading() const
+{
+    const auto [across, down] = pageFactors();
+    return {settings.renderingOrigin.X, settings.renderingOrigin.Y, across, down, settings.hasHalfPixelOffset()};
+}
+
 bool GraphicsState::overlaps(ConstPixelView view) const
 {
     std::optional<PixelView> own;

@@ -7,6 +7,7 @@
 #include "Platform/gdiplus/Canvas.h"
 #include "Platform/gdiplus/Enums.h"
 #include "Platform/gdiplus/PixelStore.h"
+#include "Platform/gdiplus/brushes/Shader.h"
 #include "Platform/win32/Surface.h"
 
 #include <memory>
@@ -103,6 +104,7 @@ public:
     Resolution resolution() const;
     /// Pixels per world unit across and down.
     Resolution pageFactors() const;
+    ShadingSettings shading() const;
 
     /// Whether a view may show some of the surface's own pixels.
     bool overlaps(ConstPixelView view) const;

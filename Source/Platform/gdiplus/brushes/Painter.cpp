@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#include "Platform/gdiplus/brushes/Painter.h"
+
+#include <algorithm>
+#include <array>
+
+namespace vq::gdiplus {
+namespace {
+
+/// Pixels that are shaded at a time.
+constexpr std::size_t kBlock = 256;
+
+} // namespace
+
+/// `solid(run, colour)` for one colour; else `shaded(run, colours, first)` block by block, where `first` is how far the
+/// block is from the beginning of the run.
+template <typename Solid, typename Shaded>
+void Painter::paint(int x, int y, std::size_t length, Solid solid, Shaded shaded) const
+{
+    const std::span<Pixel> whole = m_canvas.run(x, y, static_cast<int>(length));
+    m_shader.visit([&]<typename Kind>(const Kind& shader) {
+        if constexpr (kIsSolid<Kind>) {
+            onRun(m_canvas, whole, [&](std::span<Pixel> run) { solid(run, shader.colour); });
+        } else {
+            std::array<Pixel, kBlock> colours;
+            for (std::size_t first = 0; first < length; first += kBlock) {
+                const std::span<Pixel> row(colours.data(), std::min(kBlock, length - first));
+                shader.shade(row, x + static_cast<int>(first), y);
+                onRun(m_canvas, whole.subspan(first, row.size()),
+                      [&](std::span<Pixel> run) { shaded(run, std::span<const Pixel>(row), first); });
+            }
+        }
+    });
+}
+
+void Painter::run(int x, int y, int length) const
+{
+    const Blend blend = m_canvas.blend;
+    paint(
+        x, y, static_cast<std::size_t>(length),
+        [=](std::span<Pixel> run, Pixel colour) { compositeColour(run, colour, blend); },
+        [=](std::span<Pixel> run, std::span<const Pixel> colours, std::size_t) { compositeRow(run, colours, blend); });
+}
+
+void Painter::run(int x, int y, int length, Channel coverage) const
+{
+    const Blend blend = m_canvas.blend;
+    std::array<Channel, kBlock> same;
+    paint(
+        x, y, static_cast<std::size_t>(length),
+        [=](std::span<Pixel> run, Pixel colour) { compositeColour(run, colour, coverage, blend); },
+        [&](std::span<Pixel> run, std::span<const Pixel> colours, std::size_t) {
+            const auto row = std::span(same).first(run.size());
+            std::ranges::fill(row, coverage);
+            compositeRow(run, colours, row, blend);
+        });
+}
+
+void Painter::run(int x, int y, std::span<const Channel> coverage) const
+{
+    const Blend blend = m_canvas.blend;
+    paint(
+        x, y, coverage.size(),
+        [=](std::span<Pixel> run, Pixel colour) { compositeColour(run, colour, coverage, blend); },
+        [=](std::span<Pixel> run, std::span<const Pixel> colours, std::size_t first) {
+            compositeRow(run, colours, coverage.subspan(first, run.size()), blend);
+        });
+}
+
+} // namespace vq::gdiplus

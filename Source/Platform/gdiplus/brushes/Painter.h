@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Platform/gdiplus/Canvas.h"
+#include "Platform/gdiplus/brushes/Shader.h"
+
+namespace vq::gdiplus {
+
+/// Puts a brush on runs of a surface: where shapes and glyphs, which know coverage, meet shaders, which know colours.
+/// All runs lie inside the surface. A pixel that is given twice is composited twice.
+class Painter
+{
+public:
+    Painter(const Canvas& canvas, const Shader& shader) : m_canvas(canvas), m_shader(shader) {}
+
+    const Canvas& canvas() const { return m_canvas; }
+
+    /// A run that is covered in full.
+    void run(int x, int y, int length) const;
+    /// A run of the same coverage, in 255ths.
+    void run(int x, int y, int length, Channel coverage) const;
+    /// A run with a coverage for each pixel.
+    void run(int x, int y, std::span<const Channel> coverage) const;
+
+private:
+    template <typename Solid, typename Shaded>
+    void paint(int x, int y, std::size_t length, Solid solid, Shaded shaded) const;
+
+    const Canvas& m_canvas;
+    const Shader& m_shader;
+};
+
+} // namespace vq::gdiplus
