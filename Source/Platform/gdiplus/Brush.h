@@ -21,6 +21,7 @@ namespace Gdiplus {
 class VQPLATFORM_API Brush : public GdiplusBase
 {
     friend class Graphics;
+    friend class Pen;
 
 public:
     virtual ~Brush();

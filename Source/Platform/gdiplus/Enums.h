@@ -105,6 +105,58 @@ enum Unit : INT {
     UnitMillimeter = 6
 };
 
+enum DashCap : INT { DashCapFlat = 0, DashCapRound = 2, DashCapTriangle = 3 };
+
+enum DashStyle : INT {
+    DashStyleSolid = 0,
+    DashStyleDash = 1,
+    DashStyleDot = 2,
+    DashStyleDashDot = 3,
+    DashStyleDashDotDot = 4,
+    DashStyleCustom = 5
+};
+
+enum FillMode : INT { FillModeAlternate = 0, FillModeWinding = 1 };
+
+enum LineCap : INT {
+    LineCapFlat = 0,
+    LineCapSquare = 1,
+    LineCapRound = 2,
+    LineCapTriangle = 3,
+    LineCapNoAnchor = 0x10,
+    LineCapSquareAnchor = 0x11,
+    LineCapRoundAnchor = 0x12,
+    LineCapDiamondAnchor = 0x13,
+    LineCapArrowAnchor = 0x14,
+    LineCapCustom = 0xFF,
+    LineCapAnchorMask = 0xF0
+};
+
+/// Miter is cut off at the limit, MiterClipped becomes a bevel there.
+enum LineJoin : INT { LineJoinMiter = 0, LineJoinBevel = 1, LineJoinRound = 2, LineJoinMiterClipped = 3 };
+
+enum PathPointType : INT {
+    PathPointTypeStart = 0x00,
+    PathPointTypeLine = 0x01,
+    PathPointTypeBezier = 0x03,
+    PathPointTypeBezier3 = PathPointTypeBezier,
+    PathPointTypePathTypeMask = 0x07,
+    PathPointTypePathDashMode = 0x10,
+    PathPointTypePathMarker = 0x20,
+    PathPointTypeCloseSubpath = 0x80
+};
+
+enum PenAlignment : INT { PenAlignmentCenter = 0, PenAlignmentInset = 1 };
+
+enum PenType : INT {
+    PenTypeUnknown = -1,
+    PenTypeSolidColor = BrushTypeSolidColor,
+    PenTypeHatchFill = BrushTypeHatchFill,
+    PenTypeTextureFill = BrushTypeTextureFill,
+    PenTypePathGradient = BrushTypePathGradient,
+    PenTypeLinearGradient = BrushTypeLinearGradient
+};
+
 /// What `LockBits` is asked for; the values can be combined.
 enum ImageLockMode : UINT { ImageLockModeRead = 1, ImageLockModeWrite = 2, ImageLockModeUserInputBuf = 4 };
 

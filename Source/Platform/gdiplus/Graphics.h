@@ -11,11 +11,15 @@
 
 namespace vq::gdiplus {
 class GraphicsState;
-}
+class Polylines;
+enum class FillRule;
+} // namespace vq::gdiplus
 
 namespace Gdiplus {
 
+class GraphicsPath;
 class ImageAttributes;
+class Pen;
 using ImageAbort = BOOL(CALLBACK*)(VOID*);
 using DrawImageAbort = ImageAbort;
 
@@ -87,6 +91,64 @@ public:
     Status FillRectangle(const Brush* brush, const Rect& rect);
     Status FillRectangle(const Brush* brush, INT x, INT y, INT width, INT height);
 
+    Status FillRectangles(const Brush* brush, const RectF* rects, INT count);
+    Status FillRectangles(const Brush* brush, const Rect* rects, INT count);
+    Status FillEllipse(const Brush* brush, const RectF& rect);
+    Status FillEllipse(const Brush* brush, REAL x, REAL y, REAL width, REAL height);
+    Status FillEllipse(const Brush* brush, const Rect& rect);
+    Status FillEllipse(const Brush* brush, INT x, INT y, INT width, INT height);
+    Status FillPie(const Brush* brush, const RectF& rect, REAL startAngle, REAL sweepAngle);
+    Status FillPie(const Brush* brush, REAL x, REAL y, REAL width, REAL height, REAL startAngle, REAL sweepAngle);
+    Status FillPie(const Brush* brush, const Rect& rect, REAL startAngle, REAL sweepAngle);
+    Status FillPie(const Brush* brush, INT x, INT y, INT width, INT height, REAL startAngle, REAL sweepAngle);
+    Status FillPolygon(const Brush* brush, const PointF* points, INT count);
+    Status FillPolygon(const Brush* brush, const PointF* points, INT count, FillMode fillMode);
+    Status FillPolygon(const Brush* brush, const Point* points, INT count);
+    Status FillPolygon(const Brush* brush, const Point* points, INT count, FillMode fillMode);
+    /// Open figures are closed.
+    Status FillPath(const Brush* brush, const GraphicsPath* path);
+
+    /// Without smoothing a pen of one pixel lights, on every whole position of the longer axis, the nearest pixel, both
+    /// ends included; wider pens, and all pens with smoothing, cover the area that the pen sweeps. A line from a point
+    /// to itself is nothing. A figure is drawn as one shape: what it covers twice is composited once. Coordinates that
+    /// are no numbers: `ValueOverflow`.
+    Status DrawLine(const Pen* pen, const PointF& pt1, const PointF& pt2);
+    Status DrawLine(const Pen* pen, REAL x1, REAL y1, REAL x2, REAL y2);
+    Status DrawLine(const Pen* pen, const Point& pt1, const Point& pt2);
+    Status DrawLine(const Pen* pen, INT x1, INT y1, INT x2, INT y2);
+    /// At least two points.
+    Status DrawLines(const Pen* pen, const PointF* points, INT count);
+    Status DrawLines(const Pen* pen, const Point* points, INT count);
+    Status DrawBezier(const Pen* pen, const PointF& pt1, const PointF& pt2, const PointF& pt3, const PointF& pt4);
+    Status DrawBezier(const Pen* pen, REAL x1, REAL y1, REAL x2, REAL y2, REAL x3, REAL y3, REAL x4, REAL y4);
+    Status DrawBezier(const Pen* pen, const Point& pt1, const Point& pt2, const Point& pt3, const Point& pt4);
+    Status DrawBezier(const Pen* pen, INT x1, INT y1, INT x2, INT y2, INT x3, INT y3, INT x4, INT y4);
+    /// 4, 7, 10 .. points.
+    Status DrawBeziers(const Pen* pen, const PointF* points, INT count);
+    Status DrawBeziers(const Pen* pen, const Point* points, INT count);
+    /// A width or height of 0 or less draws nothing; so for rectangles.
+    Status DrawArc(const Pen* pen, const RectF& rect, REAL startAngle, REAL sweepAngle);
+    Status DrawArc(const Pen* pen, REAL x, REAL y, REAL width, REAL height, REAL startAngle, REAL sweepAngle);
+    Status DrawArc(const Pen* pen, const Rect& rect, REAL startAngle, REAL sweepAngle);
+    Status DrawArc(const Pen* pen, INT x, INT y, INT width, INT height, REAL startAngle, REAL sweepAngle);
+    Status DrawPie(const Pen* pen, const RectF& rect, REAL startAngle, REAL sweepAngle);
+    Status DrawPie(const Pen* pen, REAL x, REAL y, REAL width, REAL height, REAL startAngle, REAL sweepAngle);
+    Status DrawPie(const Pen* pen, const Rect& rect, REAL startAngle, REAL sweepAngle);
+    Status DrawPie(const Pen* pen, INT x, INT y, INT width, INT height, REAL startAngle, REAL sweepAngle);
+    Status DrawRectangle(const Pen* pen, const RectF& rect);
+    Status DrawRectangle(const Pen* pen, REAL x, REAL y, REAL width, REAL height);
+    Status DrawRectangle(const Pen* pen, const Rect& rect);
+    Status DrawRectangle(const Pen* pen, INT x, INT y, INT width, INT height);
+    Status DrawRectangles(const Pen* pen, const RectF* rects, INT count);
+    Status DrawRectangles(const Pen* pen, const Rect* rects, INT count);
+    Status DrawEllipse(const Pen* pen, const RectF& rect);
+    Status DrawEllipse(const Pen* pen, REAL x, REAL y, REAL width, REAL height);
+    Status DrawEllipse(const Pen* pen, const Rect& rect);
+    Status DrawEllipse(const Pen* pen, INT x, INT y, INT width, INT height);
+    Status DrawPolygon(const Pen* pen, const PointF* points, INT count);
+    Status DrawPolygon(const Pen* pen, const Point* points, INT count);
+    Status DrawPath(const Pen* pen, const GraphicsPath* path);
+
     /// The forms with a point draw in physical size: scaled by the resolution of the surface over that of the picture.
     Status DrawImage(Image* image, const PointF& point);
     Status DrawImage(Image* image, REAL x, REAL y);
@@ -121,6 +183,14 @@ private:
     template <typename Value, typename Reader>
     Value read(Value fallback, Reader reader) const;
     Status fill(const Brush* brush, double x, double y, double width, double height);
+    template <typename MakeShape>
+    Status strokeShape(const Pen* pen, MakeShape makeShape);
+    template <typename MakeShape>
+    Status fillShape(const Brush* brush, vq::gdiplus::FillRule rule, MakeShape makeShape);
+    template <typename PointType>
+    Status drawPoints(const Pen* pen, const PointType* points, INT count, INT least, BYTE type, bool close);
+    template <typename PointType>
+    Status fillPoints(const Brush* brush, const PointType* points, INT count, FillMode fillMode);
     Status drawPart(Image* image, const RectF& target, const RectF& source, Unit sourceUnit);
     Status drawAt(Image* image, const PointF& point, const RectF* source, Unit sourceUnit);
 

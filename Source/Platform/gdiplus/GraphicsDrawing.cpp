@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Platform/gdiplus/Conversions.h"
 #include "Platform/gdiplus/FillRectangle.h"
 #include "Platform/gdiplus/GraphicsAccess.h"
 #include "Platform/gdiplus/ImageAccess.h"
@@ -15,19 +16,9 @@ using vq::gdiplus::FloatRect;
 using vq::gdiplus::GraphicsState;
 using vq::gdiplus::Painter;
 using vq::gdiplus::SurfaceAlpha;
+using vq::gdiplus::toFloat;
 
 namespace {
-
-PointF toFloat(const Point& point)
-{
-    return PointF(static_cast<REAL>(point.X), static_cast<REAL>(point.Y));
-}
-
-RectF toFloat(const Rect& rect)
-{
-    return RectF(static_cast<REAL>(rect.X), static_cast<REAL>(rect.Y), static_cast<REAL>(rect.Width),
-                 static_cast<REAL>(rect.Height));
-}
 
 bool isUnit(Unit unit)
 {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/gdiplus/GraphicsState.h"
 
+#include "Platform/gdiplus/DrawingMemory.h"
+
 #include <algorithm>
 #include <functional>
 #include <vector>
@@ -61,6 +63,15 @@ Blend GraphicsSettings::blend() const
 GraphicsState::GraphicsState(Pixels image) : m_image(std::move(image)) {}
 
 GraphicsState::GraphicsState(HDC context) : m_context(context) {}
+
+GraphicsState::~GraphicsState() = default;
+
+DrawingMemory& GraphicsState::memory()
+{
+    if (!m_memory)
+        m_memory = std::make_unique<DrawingMemory>();
+    return *m_memory;
+}
 
 HDC GraphicsState::lend()
 {

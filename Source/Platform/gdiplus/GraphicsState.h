@@ -64,6 +64,7 @@ private:
     platform::PixelMemory<std::uint8_t> m_memory;
 };
 
+struct DrawingMemory;
 class GraphicsState;
 
 /// The surface as a canvas, for one call. Premultiplied and 24-bit pixels are drawn on as straight ones, in a copy.
@@ -92,6 +93,9 @@ class GraphicsState
 public:
     explicit GraphicsState(Pixels image);
     explicit GraphicsState(HDC context);
+    ~GraphicsState();
+    GraphicsState(const GraphicsState&) = delete;
+    GraphicsState& operator=(const GraphicsState&) = delete;
 
     GraphicsSettings settings;
 
@@ -105,6 +109,9 @@ public:
     /// Pixels per world unit across and down.
     Resolution pageFactors() const;
     ShadingSettings shading() const;
+
+    /// Made when a shape is first drawn.
+    DrawingMemory& memory();
 
     /// Whether a view may show some of the surface's own pixels.
     bool overlaps(ConstPixelView view) const;
@@ -135,6 +142,7 @@ private:
     HDC m_context = nullptr;
     HDC m_lent = nullptr;
     BorrowedContext m_borrowed;
+    std::unique_ptr<DrawingMemory> m_memory;
 };
 
 } // namespace vq::gdiplus

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Platform/gdiplus/raster/Polylines.h"
+
+#include <array>
+
+namespace vq::gdiplus {
+
+/// How finely curves become edges.
+struct CurvePrecision
+{
+    double flatness;  ///< the largest distance, in pixels, between a curve and its edges
+    bool powersOfTwo; ///< the number of edges is one: GDI+'s rule
+
+    /// Windows' pictures of curves without smoothing are reproduced exactly by this.
+    static constexpr CurvePrecision asGdiplus(double flatness = 0.25) { return {flatness, true}; }
+    /// With smoothing the edges stay within half a level of coverage of the curve.
+    static constexpr CurvePrecision fine() { return {1.0 / 400, false}; }
+};
+
+using Bezier = std::array<PointD, 4>;
+
+/// The number of edges, equal steps of the parameter, that a curve becomes: 1 .. 65536. For n steps the distance is
+/// 3/4 D / n^2 at most, D the larger second difference of the control points.
+int bezierSteps(const Bezier& curve, CurvePrecision precision);
+
+/// Adds the curve's edges; its first point is there already.
+void addBezier(Polylines& polylines, const Bezier& curve, CurvePrecision precision);
+
+} // namespace vq::gdiplus
