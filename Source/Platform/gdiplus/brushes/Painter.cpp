@@ -33,6 +33,18 @@ void Painter::paint(int x, int y, std::size_t length, Solid solid, Shaded shaded
     });
 }
 
+std::optional<Pixel> Painter::plainColour() const
+{
+    if (m_canvas.blend != Blend::SourceOver || m_canvas.alpha != SurfaceAlpha::Stored)
+        return std::nullopt;
+    return m_shader.visit([]<typename Kind>(const Kind& shader) -> std::optional<Pixel> {
+        if constexpr (kIsSolid<Kind>)
+            return shader.colour;
+        else
+            return std::nullopt;
+    });
+}
+
 void Painter::run(int x, int y, int length) const
 {
     const Blend blend = m_canvas.blend;

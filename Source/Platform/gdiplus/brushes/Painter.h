@@ -4,6 +4,8 @@
 #include "Platform/gdiplus/Canvas.h"
 #include "Platform/gdiplus/brushes/Shader.h"
 
+#include <optional>
+
 namespace vq::gdiplus {
 
 /// Puts a brush on runs of a surface: where shapes and glyphs, which know coverage, meet shaders, which know colours.
@@ -14,6 +16,10 @@ public:
     Painter(const Canvas& canvas, const Shader& shader) : m_canvas(canvas), m_shader(shader) {}
 
     const Canvas& canvas() const { return m_canvas; }
+
+    /// The brush, where painting is nothing but one colour over pixels with alpha: whoever knows it may composite
+    /// single pixels without calling here.
+    std::optional<Pixel> plainColour() const;
 
     /// A run that is covered in full.
     void run(int x, int y, int length) const;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/gdiplus/compositor/CompositeRow.h"
 
-#include "Platform/gdiplus/compositor/CompositingFormulas.h"
+#include "Platform/gdiplus/compositor/CompositePixel.h"
 
 #include <algorithm>
 #include <array>
@@ -115,24 +115,6 @@ inline void overAny(Pixel* destination, const Pixel* source, std::size_t count)
                                     channel(greenOf(d), greenOf(s)), channel(blueOf(d), blueOf(s)));
         destination[i] = (d & untouched) | (result & ~untouched);
     }
-}
-
-/// `sourceOver`, for single pixels; the common divisor of opaque destinations is a constant for the compiler.
-template <typename Light>
-inline Pixel overPixel(Pixel destination, Pixel source)
-{
-    const std::uint32_t alpha = alphaOf(source);
-    if (alpha == 0)
-        return destination;
-    if (alpha == 255)
-        return source;
-    if (alphaOf(destination) != 255)
-        return sourceOver<Light>(destination, source);
-    const auto channel = [=](std::uint32_t d, std::uint32_t s) {
-        return Light::encode(roundedQuotient(Light::decode(d) * (255 - alpha) + Light::decode(s) * alpha, 255));
-    };
-    return packed(255, channel(redOf(destination), redOf(source)), channel(greenOf(destination), greenOf(source)),
-                  channel(blueOf(destination), blueOf(source)));
 }
 
 /// One pixel and a block of them under each `Blend`.

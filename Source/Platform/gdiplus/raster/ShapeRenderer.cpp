@@ -12,6 +12,18 @@ Bounds boundsOf(const PixelView& view)
     return {-0.5, -0.5, view.width - 0.5, view.height - 0.5};
 }
 
+/// The ends of a line that is one straight edge without anything on it; nothing for other shapes.
+std::optional<std::array<PointD, 2>> plainLine(const Polylines& lines, const StrokeStyle& style)
+{
+    if (lines.figures().size() != 1 || style.start != LineEnd::Flat || style.end != LineEnd::Flat ||
+        !style.dashes.solid())
+        return std::nullopt;
+    const auto points = lines.points(lines.figures()[0]);
+    if (points.size() != 2 || lines.figures()[0].closed || points[0] == points[1])
+        return std::nullopt;
+    return std::array{points[0], points[1]};
+}
+
 /// How far a stroke may reach beyond its line: corners by their limit, anchors by an arrow's diagonal.
 double reachOf(const StrokeStyle& style)
 {
@@ -40,6 +52,9 @@ void ShapeRenderer::stroke(const Painter& painter, const Polylines& lines, const
         return;
     if (!painter.canvas().smooth && style.width <= 1)
         return strokeThin(painter, lines, style);
+    if (const auto line = plainLine(lines, style);
+        line && painter.canvas().smooth && SmoothLine::canDraw((*line)[0], (*line)[1], style.width))
+        return m_line.draw((*line)[0], (*line)[1], style.width, painter);
     m_outline.clear();
     m_stroker.stroke(lines, style, visible, m_outline);
     fill(painter, m_outline, FillRule::Winding);

@@ -3,6 +3,7 @@
 
 #include "Platform/gdiplus/raster/RunSet.h"
 #include "Platform/gdiplus/raster/SmoothFill.h"
+#include "Platform/gdiplus/raster/SmoothLine.h"
 #include "Platform/gdiplus/raster/Stroke.h"
 
 namespace vq::gdiplus {
@@ -36,6 +37,7 @@ private:
     Stroker m_stroker;
     HardFill m_hard;
     SmoothFill m_smooth;
+    SmoothLine m_line;
     RunSet m_runs;
 };
 

@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: MIT
+#include "Platform/gdiplus/raster/SmoothLine.h"
+
+#include "Platform/gdiplus/compositor/CompositePixel.h"
+#include "Platform/gdiplus/raster/ConvexPolygon.h"
+
+#include <cmath>
+#include <cstdint>
+
+namespace vq::gdiplus {
+namespace {
+
+constexpr double kWidest = 2.5;
+constexpr double kFarthest = 1e8;
+
+/// 32 bits of a position are its fraction.
+constexpr int kFractionBits = 32;
+constexpr int kStepBits = kFractionBits - 8;
+
+/// The share of a pixel that is covered in full; a level of coverage is 256 of it.
+constexpr int kWhole = 255 * 256;
+
+std::int64_t toFixed(double value)
+{
+    return static_cast<std::int64_t>(std::floor(value * (std::int64_t{1} << kFractionBits)));
+}
+
+/// The part of [0, 1] x [0, 1] above an edge that passes its middle `middle` below the upper side and rises or falls by
+/// 2 `half` across it.
+double shareAbove(double middle, double half)
+{
+    if (middle <= -half)
+        return 0;
+    if (middle >= 1 + half)
+        return 1;
+    if (middle < half)
+        return (middle + half) * (middle + half) / (4 * half);
+    if (middle > 1 - half)
+        return 1 - (1 + half - middle) * (1 + half - middle) / (4 * half);
+    return middle;
+}
+
+Channel toChannel(double share)
+{
+    return static_cast<Channel>(share * 255 + 0.5);
+}
+
+} // namespace
+
+SmoothLine::SmoothLine()
+{
+    for (std::size_t i = 0; i < m_shares.size(); ++i)
+        m_shares[i] = i < m_shares.size() / 2 ? 0 : kWhole;
+}
+
+bool SmoothLine::canDraw(PointD from, PointD to, double width)
+{
+    const auto isNear = [](PointD point) { return std::abs(point.x) < kFarthest && std::abs(point.y) < kFarthest; };
+    return width <= kWidest && isNear(from) && isNear(to);
+}
+
+void SmoothLine::tabulate(double slope)
+{
+    if (slope == m_slope)
+        return;
+    m_slope = slope;
+    constexpr int kOrigin = kReach * kSteps; // where an edge passes through the upper side's middle
+    for (int i = -kSteps / 2; i <= kSteps + kSteps / 2; ++i) {
+        const double share = shareAbove((i + 0.5) / kSteps, slope / 2); // a position stands for its step's middle
+        m_shares[static_cast<std::size_t>(kOrigin + i)] = static_cast<std::uint16_t>(share * kWhole + 0.5);
+    }
+}
+
+/// The columns between the ends: two parallel edges pass through each of them.
+template <typename Plot>
+void SmoothLine::drawSteps(double firstCentre, double slope, double halfHeight, int first, int last, int rows,
+                           Plot plot)
+{
+    constexpr int kOrigin = kReach * kSteps;
+    const double reach = std::abs(slope) / 2;
+    std::int64_t upper = toFixed(firstCentre - halfHeight + 0.5); // rows begin half a pixel above their centres
+    const std::int64_t thickness = toFixed(2 * halfHeight);
+    const std::int64_t across = toFixed(reach);
+    const std::int64_t step = toFixed(slope);
+    for (int i = first; i <= last; ++i, upper += step) {
+        const std::int64_t lower = upper + thickness;
+        const int firstRow = std::max(static_cast<int>((upper - across) >> kFractionBits), 0);
+        const int lastRow = std::min(static_cast<int>((lower + across) >> kFractionBits), rows - 1);
+        const auto upperStep = static_cast<int>(upper >> kStepBits);
+        const auto lowerStep = static_cast<int>(lower >> kStepBits);
+        for (int j = firstRow; j <= lastRow; ++j) {
+            const int origin = kOrigin - j * kSteps;
+            const int share = m_shares[static_cast<std::size_t>(lowerStep + origin)] -
+                              m_shares[static_cast<std::size_t>(upperStep + origin)];
+            plot(i, j, static_cast<Channel>((share + 128) >> 8));
+        }
+    }
+}
+
+/// A line that is at least as wide as it is high, on a surface of columns x rows.
+template <typename Plot>
+void SmoothLine::drawTurned(PointD from, PointD to, double width, int columns, int rows, Plot plot)
+{
+    if (to.x < from.x)
+        std::swap(from, to);
+    const PointD along = (to - from) * (1 / lengthOf(to - from));
+    const PointD side = PointD{along.y, -along.x} * (width / 2);
+    const ConvexPolygon body({from + side, to + side, to - side, from - side});
+    const double slope = along.y / along.x;
+    const double halfHeight = width / 2 / along.x;
+
+    const auto column = [columns](double x) {
+        return static_cast<int>(std::clamp(x, -1.0, static_cast<double>(columns)));
+    };
+    const double overhang = std::abs(side.x);
+    const int first = std::max(column(std::floor(from.x - overhang + 0.5)), 0);
+    const int last = std::min(column(std::ceil(to.x + overhang - 0.5)), columns - 1);
+    const int firstWhole = std::max(column(std::ceil(from.x + overhang + 0.5)), first);
+    const int lastWhole = std::min(column(std::floor(to.x - overhang - 0.5)), last);
+
+    const auto drawEnd = [&](int begin, int end) {
+        for (int i = begin; i < end; ++i) {
+            const ConvexPolygon strip = body.betweenColumns(i - 0.5, i + 0.5);
+            const double centre = from.y + (i - from.x) * slope;
+            const double reach = halfHeight + std::abs(slope) / 2 + overhang;
+            const auto row = [rows](double y) { return static_cast<int>(std::clamp(y, -1.0, rows + 0.0)); };
+            const int lastRow = std::min(row(std::ceil(centre + reach)), rows - 1);
+            for (int j = std::max(row(std::floor(centre - reach)), 0); !strip.empty() && j <= lastRow; ++j)
+                plot(i, j, toChannel(strip.betweenRows(j - 0.5, j + 0.5).area()));
+        }
+    };
+    if (firstWhole > lastWhole)
+        return drawEnd(first, last + 1);
+    tabulate(std::abs(slope));
+    drawEnd(first, firstWhole);
+    drawSteps(from.y + (firstWhole - from.x) * slope, slope, halfHeight, firstWhole, lastWhole, rows, plot);
+    drawEnd(lastWhole + 1, last + 1);
+}
+
+void SmoothLine::draw(PointD from, PointD to, double width, const Painter& painter)
+{
+    const PixelView view = painter.canvas().view;
+    const bool steep = std::abs(to.y - from.y) > std::abs(to.x - from.x);
+    const auto drawWith = [&](auto plot) {
+        const auto covered = [plot](int x, int y, Channel coverage) {
+            if (coverage != 0)
+                plot(x, y, coverage);
+        };
+        if (steep)
+            drawTurned({from.y, from.x}, {to.y, to.x}, width, view.height, view.width,
+                       [=](int y, int x, Channel coverage) { covered(x, y, coverage); });
+        else
+            drawTurned(from, to, width, view.width, view.height, covered);
+    };
+    if (const auto colour = painter.plainColour())
+        drawWith([view, colour = *colour](int x, int y, Channel coverage) {
+            Pixel& pixel = view.row(y)[x];
+            pixel = overPixel<StoredLight>(pixel, withCoverage(colour, coverage));
+        });
+    else
+        drawWith([&](int x, int y, Channel coverage) { painter.run(x, y, 1, coverage); });
+}
+
+} // namespace vq::gdiplus
