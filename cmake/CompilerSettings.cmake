@@ -37,6 +37,17 @@ function(vq_precompile target)
     target_precompile_headers(${target} PRIVATE <algorithm> <memory> <optional> <span> <string> <vector> ${ARGN})
 endfunction()
 
+# vq_kernel(name LIBRARIES ... SOURCES ...): routines that are not exported. Compiled once, for the library that they
+# are part of and for the tests that reach them.
+function(vq_kernel target)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "LIBRARIES;SOURCES")
+    add_library(${target} OBJECT ${arg_SOURCES})
+    vq_own_code(${target})
+    vq_precompile(${target})
+    target_include_directories(${target} PUBLIC ${PROJECT_SOURCE_DIR}/Source)
+    target_link_libraries(${target} PUBLIC ${arg_LIBRARIES})
+endfunction()
+
 # A shared library of the project below Source/: exports what its code marks, installs with its headers.
 function(vq_library target)
     add_library(${target} SHARED)

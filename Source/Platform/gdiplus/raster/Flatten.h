@@ -15,8 +15,8 @@ struct CurvePrecision
 
     /// Windows' pictures of curves without smoothing are reproduced exactly by this.
     static constexpr CurvePrecision asGdiplus(double flatness = 0.25) { return {flatness, true}; }
-    /// With smoothing the edges stay within half a level of coverage of the curve.
-    static constexpr CurvePrecision fine() { return {1.0 / 400, false}; }
+    /// With smoothing the edges stay within a level of coverage of the curve.
+    static constexpr CurvePrecision fine() { return {1.0 / 256, false}; }
 };
 
 using Bezier = std::array<PointD, 4>;

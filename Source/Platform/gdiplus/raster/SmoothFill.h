@@ -4,8 +4,7 @@
 #include "Platform/gdiplus/brushes/Painter.h"
 #include "Platform/gdiplus/raster/HardFill.h"
 
-#include <agg_rasterizer_scanline_aa.h>
-#include <agg_scanline_p.h>
+#include <agg_rasterizer_scanline_aa_nogamma.h>
 
 namespace vq::gdiplus {
 
@@ -18,8 +17,14 @@ public:
     void fill(const Polylines& shape, FillRule rule, const Painter& painter);
 
 private:
-    agg::rasterizer_scanline_aa<agg::rasterizer_sl_clip_dbl> m_rasteriser;
-    agg::scanline_p8 m_scanline;
+    using Cells = agg::rasterizer_cells_aa<agg::cell_aa>;
+
+    void addEdges(const Polylines& shape, const PixelView& view);
+    template <FillRule rule, typename Runs>
+    void sweep(const Runs& runs);
+
+    Cells m_cells;
+    agg::rasterizer_sl_clip_dbl m_clip;
 };
 
 } // namespace vq::gdiplus

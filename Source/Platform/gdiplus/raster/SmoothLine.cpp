@@ -40,6 +40,30 @@ double shareAbove(double middle, double half)
     return middle;
 }
 
+/// Memory is fetched for what is drawn this many columns later.
+constexpr int kAhead = 16;
+
+/// Composites a pixel of a line that was turned, or was not, to be wider than high.
+template <bool steep, typename Composite>
+struct Plot
+{
+    PixelView view;
+    Composite composite;
+
+    void operator()(int i, int j, Channel coverage) const
+    {
+        if (coverage != 0)
+            composite(steep ? j : i, steep ? i : j, coverage);
+    }
+
+    /// Of a steep line every pixel lies on another row, which the processor does not foresee.
+    void expect(int i, int j) const
+    {
+        if (steep && i < view.height && j >= 0 && j < view.width)
+            __builtin_prefetch(view.row(i) + j, 1);
+    }
+};
+
 Channel toChannel(double share)
 {
     return static_cast<Channel>(share * 255 + 0.5);
@@ -74,7 +98,7 @@ void SmoothLine::tabulate(double slope)
 /// The columns between the ends: two parallel edges pass through each of them.
 template <typename Plot>
 void SmoothLine::drawSteps(double firstCentre, double slope, double halfHeight, int first, int last, int rows,
-                           Plot plot)
+                           const Plot& plot)
 {
     constexpr int kOrigin = kReach * kSteps;
     const double reach = std::abs(slope) / 2;
@@ -83,6 +107,7 @@ void SmoothLine::drawSteps(double firstCentre, double slope, double halfHeight, 
     const std::int64_t across = toFixed(reach);
     const std::int64_t step = toFixed(slope);
     for (int i = first; i <= last; ++i, upper += step) {
+        plot.expect(i + kAhead, static_cast<int>((upper + kAhead * step) >> kFractionBits));
         const std::int64_t lower = upper + thickness;
         const int firstRow = std::max(static_cast<int>((upper - across) >> kFractionBits), 0);
         const int lastRow = std::min(static_cast<int>((lower + across) >> kFractionBits), rows - 1);
@@ -99,7 +124,7 @@ void SmoothLine::drawSteps(double firstCentre, double slope, double halfHeight, 
 
 /// A line that is at least as wide as it is high, on a surface of columns x rows.
 template <typename Plot>
-void SmoothLine::drawTurned(PointD from, PointD to, double width, int columns, int rows, Plot plot)
+void SmoothLine::drawTurned(PointD from, PointD to, double width, int columns, int rows, const Plot& plot)
 {
     if (to.x < from.x)
         std::swap(from, to);
@@ -140,17 +165,12 @@ void SmoothLine::drawTurned(PointD from, PointD to, double width, int columns, i
 void SmoothLine::draw(PointD from, PointD to, double width, const Painter& painter)
 {
     const PixelView view = painter.canvas().view;
-    const bool steep = std::abs(to.y - from.y) > std::abs(to.x - from.x);
-    const auto drawWith = [&](auto plot) {
-        const auto covered = [plot](int x, int y, Channel coverage) {
-            if (coverage != 0)
-                plot(x, y, coverage);
-        };
-        if (steep)
+    const auto drawWith = [&]<typename Composite>(Composite composite) {
+        if (std::abs(to.y - from.y) > std::abs(to.x - from.x))
             drawTurned({from.y, from.x}, {to.y, to.x}, width, view.height, view.width,
-                       [=](int y, int x, Channel coverage) { covered(x, y, coverage); });
+                       Plot<true, Composite>{view, composite});
         else
-            drawTurned(from, to, width, view.width, view.height, covered);
+            drawTurned(from, to, width, view.width, view.height, Plot<false, Composite>{view, composite});
     };
     if (const auto colour = painter.plainColour())
         drawWith([view, colour = *colour](int x, int y, Channel coverage) {

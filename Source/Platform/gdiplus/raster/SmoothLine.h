@@ -24,9 +24,10 @@ public:
 private:
     void tabulate(double slope);
     template <typename Plot>
-    void drawTurned(PointD from, PointD to, double width, int columns, int rows, Plot plot);
+    void drawTurned(PointD from, PointD to, double width, int columns, int rows, const Plot& plot);
     template <typename Plot>
-    void drawSteps(double firstCentre, double slope, double halfHeight, int first, int last, int rows, Plot plot);
+    void drawSteps(double firstCentre, double slope, double halfHeight, int first, int last, int rows,
+                   const Plot& plot);
 
     /// Steps of a pixel, and how many pixels the table reaches to each side.
     static constexpr int kSteps = 256;

@@ -128,25 +128,36 @@ void Stroker::stroke(const Polylines& lines, const StrokeStyle& style, const Bou
     m_joints.miter_limit(style.miterLimit);
     m_joints.approximation_scale(kArcScale);
 
+    const Polylines& bodies = withoutAnchors(lines, style);
+    const auto capOf = [](LineEnd end) { return isAnchor(end) ? LineEnd::Flat : end; };
+    if (style.dashes.solid()) {
+        strokeFigures(bodies, capOf(style.start), capOf(style.end), LineEnd::Flat, outline);
+    } else {
+        m_dashes.clear();
+        cutDashes(bodies, style.dashes, visible, m_dashes);
+        strokeFigures(m_dashes, capOf(style.start), capOf(style.end), style.dashEnd, outline);
+    }
+    addAnchors(lines, style, outline);
+}
+
+/// What is left of lines where anchors take their ends.
+const Polylines& Stroker::withoutAnchors(const Polylines& lines, const StrokeStyle& style)
+{
+    const double atStart = bodyLostTo(style.start, style.width);
+    const double atEnd = bodyLostTo(style.end, style.width);
+    if (atStart == 0 && atEnd == 0)
+        return lines;
     m_bodies.clear();
     for (const Polylines::Figure& figure : lines.figures()) {
         if (!load(lines.points(figure), figure.closed))
             continue;
         if (!figure.closed)
-            shorten(bodyLostTo(style.start, m_width), bodyLostTo(style.end, m_width), false);
+            shorten(atStart, atEnd, false);
         for (const agg::vertex_dist& vertex : m_vertices)
             m_bodies.add(pointOf(vertex));
         m_bodies.endFigure(figure.closed);
     }
-    const auto capOf = [](LineEnd end) { return isAnchor(end) ? LineEnd::Flat : end; };
-    if (style.dashes.solid()) {
-        strokeFigures(m_bodies, capOf(style.start), capOf(style.end), LineEnd::Flat, outline);
-    } else {
-        m_dashes.clear();
-        cutDashes(m_bodies, style.dashes, visible, m_dashes);
-        strokeFigures(m_dashes, capOf(style.start), capOf(style.end), style.dashEnd, outline);
-    }
-    addAnchors(lines, style, outline);
+    return m_bodies;
 }
 
 void Stroker::addAnchors(const Polylines& lines, const StrokeStyle& style, Polylines& outline)

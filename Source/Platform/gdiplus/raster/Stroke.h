@@ -35,6 +35,7 @@ private:
     };
     using Joints = agg::math_stroke<Target>;
 
+    const Polylines& withoutAnchors(const Polylines& lines, const StrokeStyle& style);
     bool load(std::span<const PointD> points, bool closed);
     void shorten(double atStart, double atEnd, bool keepSpeck);
     void cutTo(double first, double last);
