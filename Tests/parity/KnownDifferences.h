@@ -57,6 +57,9 @@ inline constexpr std::array kKnownDifferences{
     KnownDifference{"surface of a lent context", "prepared with red 13, green 11, blue 12", "red 12, green 11, blue 13", "Wine exchanges red and blue"},
     KnownDifference{"area outside in Clone", "OutOfMemory", "InvalidParameter", "Wine checks it as an argument"},
     KnownDifference{"partly transparent pixels on a context", "our layer shows the stored colour, Windows a darkened one", "multiplied by alpha", "GDI+ writes premultiplied pixels to 32-bit contexts"},
+    KnownDifference{"gradient tiles flipped across", "TileFlipY repeats a gradient as Tile does", "mirrors it as TileFlipX does", "Wine mirrors for every flip"},
+    KnownDifference{"gamma of gradients", "interpolates light", "setting ignored", "not implemented in Wine"},
+    KnownDifference{"range of triangular shapes", "focus and scale of 0 to 1 only", "every number", "Wine does not check"},
     KnownDifference{"screen without a display", "a desktop in memory", "drawing has no effect", "Wine's driver for no display drops it"},
 };
 // clang-format on

@@ -32,6 +32,67 @@ enum CompositingQuality : INT {
 
 enum FlushIntention : INT { FlushIntentionFlush = 0, FlushIntentionSync = 1 };
 
+/// Cells of 8 x 8 pixels; LargeGrid is another name of Cross.
+enum HatchStyle : INT {
+    HatchStyleHorizontal = 0,
+    HatchStyleVertical = 1,
+    HatchStyleForwardDiagonal = 2,
+    HatchStyleBackwardDiagonal = 3,
+    HatchStyleCross = 4,
+    HatchStyleLargeGrid = 4,
+    HatchStyleDiagonalCross = 5,
+    HatchStyle05Percent = 6,
+    HatchStyle10Percent = 7,
+    HatchStyle20Percent = 8,
+    HatchStyle25Percent = 9,
+    HatchStyle30Percent = 10,
+    HatchStyle40Percent = 11,
+    HatchStyle50Percent = 12,
+    HatchStyle60Percent = 13,
+    HatchStyle70Percent = 14,
+    HatchStyle75Percent = 15,
+    HatchStyle80Percent = 16,
+    HatchStyle90Percent = 17,
+    HatchStyleLightDownwardDiagonal = 18,
+    HatchStyleLightUpwardDiagonal = 19,
+    HatchStyleDarkDownwardDiagonal = 20,
+    HatchStyleDarkUpwardDiagonal = 21,
+    HatchStyleWideDownwardDiagonal = 22,
+    HatchStyleWideUpwardDiagonal = 23,
+    HatchStyleLightVertical = 24,
+    HatchStyleLightHorizontal = 25,
+    HatchStyleNarrowVertical = 26,
+    HatchStyleNarrowHorizontal = 27,
+    HatchStyleDarkVertical = 28,
+    HatchStyleDarkHorizontal = 29,
+    HatchStyleDashedDownwardDiagonal = 30,
+    HatchStyleDashedUpwardDiagonal = 31,
+    HatchStyleDashedHorizontal = 32,
+    HatchStyleDashedVertical = 33,
+    HatchStyleSmallConfetti = 34,
+    HatchStyleLargeConfetti = 35,
+    HatchStyleZigZag = 36,
+    HatchStyleWave = 37,
+    HatchStyleDiagonalBrick = 38,
+    HatchStyleHorizontalBrick = 39,
+    HatchStyleWeave = 40,
+    HatchStylePlaid = 41,
+    HatchStyleDivot = 42,
+    HatchStyleDottedGrid = 43,
+    HatchStyleDottedDiamond = 44,
+    HatchStyleShingle = 45,
+    HatchStyleTrellis = 46,
+    HatchStyleSphere = 47,
+    HatchStyleSmallGrid = 48,
+    HatchStyleSmallCheckerBoard = 49,
+    HatchStyleLargeCheckerBoard = 50,
+    HatchStyleOutlinedDiamond = 51,
+    HatchStyleSolidDiamond = 52,
+    HatchStyleTotal = 53,
+    HatchStyleMin = HatchStyleHorizontal,
+    HatchStyleMax = HatchStyleTotal - 1
+};
+
 enum ImageType : INT { ImageTypeUnknown = 0, ImageTypeBitmap = 1, ImageTypeMetafile = 2 };
 
 enum InterpolationMode : INT {
@@ -44,6 +105,14 @@ enum InterpolationMode : INT {
     InterpolationModeNearestNeighbor = 5,
     InterpolationModeHighQualityBilinear = 6,
     InterpolationModeHighQualityBicubic = 7
+};
+
+/// Which way the colours of a rectangle change; the diagonals run from a corner to the opposite one.
+enum LinearGradientMode : INT {
+    LinearGradientModeHorizontal = 0,
+    LinearGradientModeVertical = 1,
+    LinearGradientModeForwardDiagonal = 2,
+    LinearGradientModeBackwardDiagonal = 3
 };
 
 enum PixelOffsetMode : INT {
@@ -155,6 +224,15 @@ enum PenType : INT {
     PenTypeTextureFill = BrushTypeTextureFill,
     PenTypePathGradient = BrushTypePathGradient,
     PenTypeLinearGradient = BrushTypeLinearGradient
+};
+
+/// How what ends is continued: repeated as it is, every other time mirrored, or not at all.
+enum WrapMode : INT {
+    WrapModeTile = 0,
+    WrapModeTileFlipX = 1,
+    WrapModeTileFlipY = 2,
+    WrapModeTileFlipXY = 3,
+    WrapModeClamp = 4
 };
 
 /// What `LockBits` is asked for; the values can be combined.

@@ -177,8 +177,10 @@ template <typename PointType>
 Status GraphicsPath::copyPoints(PointType* points, INT count) const
 {
     return withPoints([&](const PathPoints& path) {
-        if (!points || count < static_cast<INT>(path.points().size()))
+        if (!points)
             return InvalidParameter;
+        if (count < static_cast<INT>(path.points().size()))
+            return InsufficientBuffer;
         for (const PointF& point : path.points()) {
             if constexpr (std::is_same_v<PointType, Point>)
                 *points++ = Point(nearest(point.X), nearest(point.Y));
@@ -202,8 +204,10 @@ Status GraphicsPath::GetPathPoints(Point* points, INT count) const
 Status GraphicsPath::GetPathTypes(BYTE* types, INT count) const
 {
     return withPoints([&](const PathPoints& path) {
-        if (!types || count < static_cast<INT>(path.types().size()))
+        if (!types)
             return InvalidParameter;
+        if (count < static_cast<INT>(path.types().size()))
+            return InsufficientBuffer;
         std::ranges::copy(path.types(), types);
         return Ok;
     });
@@ -282,7 +286,7 @@ Status GraphicsPath::Flatten(const Matrix* matrix, REAL flatness)
 Status GraphicsPath::Widen(const Pen* pen, const Matrix* matrix, REAL flatness)
 {
     return withPoints([&](PathPoints& path) {
-        if (!pen || !(flatness > 0))
+        if (!pen || !pen->m_isMade || !(flatness > 0))
             return InvalidParameter;
         if (matrix)
             return NotImplemented;
@@ -291,8 +295,9 @@ Status GraphicsPath::Widen(const Pen* pen, const Matrix* matrix, REAL flatness)
         Polylines flat;
         Polylines outline;
         path.flatten({}, CurvePrecision::asGdiplus(flatness), flat);
+        constexpr double kThinnest = 1.0 / 256; // an outline without any width would be no figure
         constexpr double kAll = std::numeric_limits<float>::max();
-        vq::gdiplus::Stroker().stroke(flat, pen->style(1), {-kAll, -kAll, kAll, kAll}, outline);
+        vq::gdiplus::Stroker().stroke(flat, pen->style(1, kThinnest), {-kAll, -kAll, kAll, kAll}, outline);
         assignTo(path, outline);
         m_fillMode = FillModeWinding;
         return Ok;

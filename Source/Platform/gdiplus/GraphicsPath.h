@@ -104,7 +104,7 @@ public:
     Status AddPath(const GraphicsPath* addingPath, BOOL connect);
 
     INT GetPointCount() const;
-    /// `count` is the path's, or more.
+    /// `count` is the path's, or more; `InsufficientBuffer` for less.
     Status GetPathPoints(PointF* points, INT count) const;
     Status GetPathPoints(Point* points, INT count) const;
     Status GetPathTypes(BYTE* types, INT count) const;

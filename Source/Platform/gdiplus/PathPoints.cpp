@@ -122,10 +122,11 @@ void PathPoints::append(const PointF& point, BYTE type)
     m_types.push_back(type);
 }
 
-/// The first point of an addition: an edge leads to it when a figure is open.
+/// The first point of an addition: an edge leads to it when a figure is open, unless that has come there already.
 void PathPoints::appendFirst(const PointF& point)
 {
-    append(point, m_startsFigure ? PathPointTypeStart : PathPointTypeLine);
+    if (m_startsFigure || !m_points.back().Equals(point))
+        append(point, m_startsFigure ? PathPointTypeStart : PathPointTypeLine);
     m_startsFigure = false;
 }
 

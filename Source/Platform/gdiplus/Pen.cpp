@@ -81,13 +81,14 @@ Corner cornerOf(LineJoin join)
 } // namespace
 
 Pen::Pen(const Color& color, REAL width)
-    : m_color(color), m_width(width), m_lastStatus(vq::gdiplus::isStarted() ? Ok : GdiplusNotInitialized)
+    : m_isMade(vq::gdiplus::isStarted()), m_color(color), m_width(width),
+      m_lastStatus(m_isMade ? Ok : GdiplusNotInitialized)
 {
 }
 
-Pen::Pen(const Brush* brush, REAL width) : m_width(width), m_lastStatus(Ok)
+Pen::Pen(const Brush* brush, REAL width) : m_isMade(vq::gdiplus::isStarted()), m_width(width), m_lastStatus(Ok)
 {
-    SetBrush(brush);
+    m_isMade = SetBrush(brush) == Ok;
 }
 
 Pen::~Pen() = default;
@@ -95,7 +96,7 @@ Pen::~Pen() = default;
 Pen* Pen::Clone() const
 {
     Pen* clone = nullptr;
-    setStatus(guarded([&] {
+    whenMade([&] {
         auto copy = std::unique_ptr<Pen>(new Pen(m_color, m_width));
         if (!copy)
             return OutOfMemory;
@@ -115,7 +116,7 @@ Pen* Pen::Clone() const
         copy->m_dashOffset = m_dashOffset;
         clone = copy.release();
         return Ok;
-    }));
+    });
     return clone;
 }
 
@@ -131,19 +132,29 @@ Status Pen::setStatus(Status status) const
     return status;
 }
 
+template <typename Work>
+Status Pen::whenMade(Work work) const
+{
+    return setStatus(guarded([&]() -> Status {
+        if (!m_isMade)
+            return InvalidParameter;
+        return work();
+    }));
+}
+
 template <typename Value>
 Status Pen::set(Value& setting, Value value)
 {
-    return setStatus(guarded([&] {
+    return whenMade([&] {
         setting = value;
         return Ok;
-    }));
+    });
 }
 
 template <typename Value>
 Value Pen::get(Value setting) const
 {
-    return setStatus(guarded([] { return Ok; })) == Ok ? setting : Value{};
+    return whenMade([] { return Ok; }) == Ok ? setting : Value{};
 }
 
 Status Pen::SetWidth(REAL width)
@@ -230,26 +241,26 @@ PenType Pen::GetPenType() const
 
 Status Pen::SetColor(const Color& color)
 {
-    return setStatus(guarded([&] {
+    return whenMade([&] {
         m_color = color;
         m_brush.reset();
         return Ok;
-    }));
+    });
 }
 
 Status Pen::GetColor(Color* color) const
 {
-    return setStatus(guarded([&] {
+    return whenMade([&] {
         if (!color || m_brush)
             return InvalidParameter;
         *color = m_color;
         return Ok;
-    }));
+    });
 }
 
 Status Pen::SetBrush(const Brush* brush)
 {
-    return setStatus(guarded([&] {
+    return whenMade([&] {
         if (!brush)
             return InvalidParameter;
         if (brush->GetType() == BrushTypeSolidColor)
@@ -260,22 +271,22 @@ Status Pen::SetBrush(const Brush* brush)
             return OutOfMemory;
         m_brush = std::move(clone);
         return Ok;
-    }));
+    });
 }
 
 Brush* Pen::GetBrush() const
 {
     Brush* brush = nullptr;
-    setStatus(guarded([&] {
+    whenMade([&] {
         brush = m_brush ? m_brush->Clone() : new SolidBrush(m_color);
         return brush ? Ok : OutOfMemory;
-    }));
+    });
     return brush;
 }
 
 Status Pen::SetDashStyle(DashStyle dashStyle)
 {
-    return setStatus(guarded([&] {
+    return whenMade([&] {
         if (dashStyle < DashStyleSolid || dashStyle > DashStyleCustom)
             return InvalidParameter;
         if (dashStyle != DashStyleCustom)
@@ -284,7 +295,7 @@ Status Pen::SetDashStyle(DashStyle dashStyle)
             m_dashPattern.assign(1, 1.0f);
         m_dashStyle = dashStyle;
         return Ok;
-    }));
+    });
 }
 
 DashStyle Pen::GetDashStyle() const
@@ -294,16 +305,18 @@ DashStyle Pen::GetDashStyle() const
 
 Status Pen::SetDashPattern(const REAL* dashArray, INT count)
 {
-    return setStatus(guarded([&] {
-        if (!dashArray || count <= 0)
+    return whenMade([&] {
+        if (!dashArray)
             return InvalidParameter;
+        if (count <= 0)
+            return OutOfMemory;
         const std::span dashes(dashArray, static_cast<std::size_t>(count));
         if (!std::ranges::all_of(dashes, [](REAL length) { return length > 0; }))
             return InvalidParameter;
         m_dashPattern.assign(dashes.begin(), dashes.end());
         m_dashStyle = DashStyleCustom;
         return Ok;
-    }));
+    });
 }
 
 INT Pen::GetDashPatternCount() const
@@ -313,12 +326,12 @@ INT Pen::GetDashPatternCount() const
 
 Status Pen::GetDashPattern(REAL* dashArray, INT count) const
 {
-    return setStatus(guarded([&] {
+    return whenMade([&] {
         if (!dashArray || count <= 0 || static_cast<std::size_t>(count) > m_dashPattern.size())
             return InvalidParameter;
         std::copy_n(m_dashPattern.begin(), count, dashArray);
         return Ok;
-    }));
+    });
 }
 
 Status Pen::SetDashOffset(REAL dashOffset)
@@ -333,14 +346,16 @@ REAL Pen::GetDashOffset() const
 
 std::optional<vq::gdiplus::Shader> Pen::shader(const vq::gdiplus::ShadingSettings& settings) const
 {
+    if (!m_isMade)
+        return std::nullopt;
     if (m_brush)
         return m_brush->shader(settings);
     return vq::gdiplus::SolidShader{m_color.GetValue()};
 }
 
-StrokeStyle Pen::style(double scale) const
+StrokeStyle Pen::style(double scale, double least) const
 {
-    const double width = std::isfinite(m_width) ? std::max(std::abs(m_width) * scale, 1.0) : 1.0;
+    const double width = std::isfinite(m_width) ? std::max(std::abs(m_width) * scale, least) : 1.0;
     const auto lengths = m_dashStyle == DashStyleCustom ? std::span<const float>(m_dashPattern)
                                                         : kPatterns[static_cast<std::size_t>(m_dashStyle)];
     const double offset = std::isfinite(m_dashOffset) ? m_dashOffset : 0;
@@ -350,7 +365,7 @@ StrokeStyle Pen::style(double scale) const
     style.end = endOf(m_endCap);
     style.corner = cornerOf(m_lineJoin);
     style.miterLimit = std::isfinite(m_miterLimit) ? m_miterLimit : 1;
-    style.dashes = DashPattern(lengths, offset, width);
+    style.dashes = DashPattern(lengths, offset, std::max(width, 1.0));
     style.dashEnd = endOf(m_dashCap);
     return style;
 }

@@ -66,7 +66,8 @@ public:
     /// Custom without a pattern is one width on, one off.
     Status SetDashStyle(DashStyle dashStyle);
     DashStyle GetDashStyle() const;
-    /// Lengths in widths, on and off in turn, above 0. The style becomes Custom.
+    /// Lengths in widths, or in units for a pen below 1, on and off in turn, above 0. The style becomes Custom. Without
+    /// entries `OutOfMemory`, as GDI+ answers.
     Status SetDashPattern(const REAL* dashArray, INT count);
     /// 0 for the styles that are not Custom.
     INT GetDashPatternCount() const;
@@ -80,16 +81,20 @@ public:
 
 private:
     Status setStatus(Status status) const;
+    /// Runs the work of a call; `InvalidParameter` for a pen that could not be made.
+    template <typename Work>
+    Status whenMade(Work work) const;
     template <typename Value>
     Status set(Value& setting, Value value);
     template <typename Value>
     Value get(Value setting) const;
 
     std::optional<vq::gdiplus::Shader> shader(const vq::gdiplus::ShadingSettings& settings) const;
-    /// Lends the pattern. `scale` is pixels per world unit.
-    vq::gdiplus::StrokeStyle style(double scale) const;
+    /// Lends the pattern. `scale` is pixels per world unit; a thinner pen is `least` pixels wide.
+    vq::gdiplus::StrokeStyle style(double scale, double least = 1) const;
     bool drawsInside(double scale) const;
 
+    bool m_isMade = false;
     Color m_color;
     std::unique_ptr<Brush> m_brush; ///< none: the colour
     REAL m_width;

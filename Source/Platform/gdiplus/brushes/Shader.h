@@ -5,6 +5,9 @@
 /// What a brush puts on the pixels of a surface: a value that is made for one call, from a brush and a surface's
 /// settings, and that takes no memory.
 
+#include "Platform/gdiplus/brushes/GradientShader.h"
+#include "Platform/gdiplus/brushes/HatchShader.h"
+#include "Platform/gdiplus/brushes/ShadingSettings.h"
 #include "Platform/gdiplus/compositor/PixelView.h"
 
 #include <span>
@@ -12,14 +15,6 @@
 #include <variant>
 
 namespace vq::gdiplus {
-
-/// What turns a brush, which lives in world units, into colours of pixels.
-struct ShadingSettings
-{
-    int originX, originY; ///< the rendering origin, in pixels of the device
-    double across, down;  ///< pixels per world unit
-    bool halfPixelOffset; ///< pixel (i, j) has its centre at (i + 1/2, j + 1/2) and not at (i, j)
-};
 
 /// One colour everywhere.
 struct SolidShader
@@ -31,6 +26,8 @@ class Shader
 {
 public:
     Shader(SolidShader solid) : m_kind(solid) {}
+    Shader(const HatchShader& hatch) : m_kind(hatch) {}
+    Shader(const GradientShader& gradient) : m_kind(gradient) {}
 
     /// Calls `work` with the shader of its own kind: a SolidShader, or one that has
     /// `void shade(std::span<Pixel> row, int x, int y) const`, the colours of the pixels from (x, y) to the right.
@@ -41,7 +38,7 @@ public:
     }
 
 private:
-    std::variant<SolidShader> m_kind;
+    std::variant<SolidShader, HatchShader, GradientShader> m_kind;
 };
 
 template <typename Kind>

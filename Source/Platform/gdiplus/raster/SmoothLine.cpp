@@ -16,6 +16,7 @@ constexpr double kFarthest = 1e8;
 /// 32 bits of a position are its fraction.
 constexpr int kFractionBits = 32;
 constexpr int kStepBits = kFractionBits - 8;
+constexpr std::int64_t kHalfStep = std::int64_t{1} << (kStepBits - 1);
 
 /// The share of a pixel that is covered in full; a level of coverage is 256 of it.
 constexpr int kWhole = 255 * 256;
@@ -90,7 +91,7 @@ void SmoothLine::tabulate(double slope)
     m_slope = slope;
     constexpr int kOrigin = kReach * kSteps; // where an edge passes through the upper side's middle
     for (int i = -kSteps / 2; i <= kSteps + kSteps / 2; ++i) {
-        const double share = shareAbove((i + 0.5) / kSteps, slope / 2); // a position stands for its step's middle
+        const double share = shareAbove(static_cast<double>(i) / kSteps, slope / 2);
         m_shares[static_cast<std::size_t>(kOrigin + i)] = static_cast<std::uint16_t>(share * kWhole + 0.5);
     }
 }
@@ -111,8 +112,8 @@ void SmoothLine::drawSteps(double firstCentre, double slope, double halfHeight, 
         const std::int64_t lower = upper + thickness;
         const int firstRow = std::max(static_cast<int>((upper - across) >> kFractionBits), 0);
         const int lastRow = std::min(static_cast<int>((lower + across) >> kFractionBits), rows - 1);
-        const auto upperStep = static_cast<int>(upper >> kStepBits);
-        const auto lowerStep = static_cast<int>(lower >> kStepBits);
+        const auto upperStep = static_cast<int>((upper + kHalfStep) >> kStepBits);
+        const auto lowerStep = static_cast<int>((lower + kHalfStep) >> kStepBits);
         for (int j = firstRow; j <= lastRow; ++j) {
             const int origin = kOrigin - j * kSteps;
             const int share = m_shares[static_cast<std::size_t>(lowerStep + origin)] -

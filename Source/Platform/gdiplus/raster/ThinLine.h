@@ -2,9 +2,9 @@
 #pragma once
 
 /// @file
-/// Lines one pixel wide without smoothing. On every whole position of the longer axis, both ends included, the nearest
-/// pixel of the shorter one; halfway lies towards larger coordinates. Curves of GDI+ are reproduced bit by bit when
-/// their edges, which end between pixels, are drawn so.
+/// Lines one pixel wide without smoothing. On every whole position of the longer axis from end to end, ends included,
+/// the nearest pixel of the shorter one; halfway lies towards larger coordinates. Curves of GDI+ are reproduced bit by
+/// bit when their edges, which end between pixels, are drawn so.
 
 #include "Platform/gdiplus/raster/DashPattern.h"
 #include "Platform/gdiplus/raster/Polylines.h"
@@ -29,9 +29,9 @@ void forEachThinPixel(PointD from, PointD to, int width, int height, Pixel pixel
     PointD high = turned(to);
     if (high.x < low.x)
         std::swap(low, high);
-    const auto position = [size](double value) { return std::clamp(std::floor(value + 0.5), -1.0, size + 0.0); };
-    const int first = std::max(static_cast<int>(position(low.x)), 0);
-    const int last = std::min(static_cast<int>(position(high.x)), size - 1);
+    const auto position = [size](double value) { return static_cast<int>(std::clamp(value, -1.0, size + 0.0)); };
+    const int first = std::max(position(std::ceil(low.x)), 0);
+    const int last = std::min(position(std::floor(high.x)), size - 1);
     const auto [least, most] = std::minmax(low.y, high.y);
     for (int i = first; i <= last; ++i) {
         const double side = std::clamp(low.y + (i - low.x) * (high.y - low.y) / (high.x - low.x), least, most);
