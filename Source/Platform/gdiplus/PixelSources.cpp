@@ -19,6 +19,10 @@ const GUID& rawFormatOf(FileFormat format)
         return Gdiplus::ImageFormatBMP;
     case FileFormat::Jpeg:
         return Gdiplus::ImageFormatJPEG;
+    case FileFormat::Gif:
+        return Gdiplus::ImageFormatGIF;
+    case FileFormat::Tiff:
+        return Gdiplus::ImageFormatTIFF;
     case FileFormat::Png:
         return Gdiplus::ImageFormatPNG;
     }

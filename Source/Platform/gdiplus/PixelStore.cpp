@@ -69,6 +69,7 @@ Gdiplus::PixelFormat formatOf(PictureFormat format)
     case PictureFormat::Indexed4:
         return PixelFormat4bppIndexed;
     case PictureFormat::Indexed8:
+    case PictureFormat::Indexed8Alpha:
         return PixelFormat8bppIndexed;
     case PictureFormat::Rgb555:
         return PixelFormat16bppRGB555;
@@ -76,6 +77,8 @@ Gdiplus::PixelFormat formatOf(PictureFormat format)
         return PixelFormat16bppRGB565;
     case PictureFormat::Rgb24:
         return PixelFormat24bppRGB;
+    case PictureFormat::Rgb48:
+        return PixelFormat48bppRGB;
     case PictureFormat::Rgb32:
         return PixelFormat32bppRGB;
     case PictureFormat::Argb32:
@@ -140,6 +143,8 @@ PixelsOrStatus pixelsFrom(Picture&& picture, const GUID& rawFormat)
 {
     const Resolution resolution{static_cast<Gdiplus::REAL>(picture.dpiX), static_cast<Gdiplus::REAL>(picture.dpiY)};
     auto store = describedPixels(picture.width, picture.height, formatOf(picture.format), resolution);
+    if (mayBeTransparent(picture.format))
+        store->layout = Layout::Straight; // a palette with a transparent colour too
     store->rawFormat = rawFormat;
     takeMemory(*store, platform::PixelMemory<std::uint8_t>(reinterpret_cast<std::uint8_t*>(picture.pixels.release())));
     return {std::move(store)};
@@ -168,8 +173,9 @@ PixelsOrStatus copyPixels(const PixelStore& store, const Gdiplus::Rect& part, Gd
 
 PixelsOrStatus clonePixels(const PixelStore& store)
 {
-    // Formats that no bitmap is made in (a palette, 16 bits) lie opaque in memory.
-    auto clone = copyPixels(store, store.bounds(), layoutOf(store.format) ? store.format : PixelFormat32bppRGB);
+    // Formats that no bitmap is made in (a palette, 16 bits) lie in memory as 32 bits with or without alpha.
+    const auto own = store.layout == Layout::Straight ? PixelFormat32bppARGB : PixelFormat32bppRGB;
+    auto clone = copyPixels(store, store.bounds(), layoutOf(store.format) ? store.format : own);
     if (clone.pixels) {
         clone.pixels->format = store.format;
         clone.pixels->rawFormat = store.rawFormat;

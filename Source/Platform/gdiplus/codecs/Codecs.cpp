@@ -2,8 +2,10 @@
 #include "Platform/gdiplus/codecs/Codecs.h"
 
 #include "Platform/gdiplus/codecs/Bmp.h"
+#include "Platform/gdiplus/codecs/Gif.h"
 #include "Platform/gdiplus/codecs/Jpeg.h"
 #include "Platform/gdiplus/codecs/Png.h"
+#include "Platform/gdiplus/codecs/Tiff.h"
 
 namespace vq::gdiplus {
 namespace {
@@ -18,9 +20,8 @@ struct Codec
 };
 
 constexpr Codec kCodecs[] = {
-    {FileFormat::Bmp, isBmp, decodeBmp},
-    {FileFormat::Jpeg, isJpeg, decodeJpeg},
-    {FileFormat::Png, isPng, decodePng},
+    {FileFormat::Bmp, isBmp, decodeBmp},    {FileFormat::Jpeg, isJpeg, decodeJpeg}, {FileFormat::Gif, isGif, decodeGif},
+    {FileFormat::Tiff, isTiff, decodeTiff}, {FileFormat::Png, isPng, decodePng},
 };
 
 const Codec* codecFor(Bytes file)

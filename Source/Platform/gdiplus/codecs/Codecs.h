@@ -10,7 +10,7 @@
 namespace vq::gdiplus {
 
 /// Which kind of file a picture was read from.
-enum class FileFormat { Bmp, Jpeg, Png };
+enum class FileFormat { Bmp, Jpeg, Gif, Tiff, Png };
 
 /// What the first bytes say; empty when they are no signature known here.
 std::optional<FileFormat> fileFormat(std::span<const std::uint8_t> file);

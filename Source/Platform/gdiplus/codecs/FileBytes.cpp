@@ -39,4 +39,9 @@ bool FileBytes::append(std::span<const std::uint8_t> bytes) noexcept
     return true;
 }
 
+void FileBytes::overwrite(std::size_t position, std::span<const std::uint8_t> bytes) noexcept
+{
+    std::copy(bytes.begin(), bytes.end(), m_bytes.get() + position);
+}
+
 } // namespace vq::gdiplus

@@ -18,6 +18,9 @@ public:
     /// False when the memory cannot be had; the content stays.
     [[nodiscard]] bool append(std::span<const std::uint8_t> bytes) noexcept;
 
+    /// Replaces bytes that are there already.
+    void overwrite(std::size_t position, std::span<const std::uint8_t> bytes) noexcept;
+
     const std::uint8_t* data() const noexcept { return m_bytes.get(); }
     std::size_t size() const noexcept { return m_size; }
     std::span<const std::uint8_t> bytes() const noexcept { return {data(), m_size}; }

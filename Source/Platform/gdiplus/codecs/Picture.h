@@ -11,21 +11,29 @@ namespace vq::gdiplus {
 
 /// The pixel format that GDI+ reports for a decoded file. The pixels themselves are always handed over as 32 bits.
 enum class PictureFormat {
-    Indexed1, ///< PixelFormat1bppIndexed
-    Indexed4, ///< PixelFormat4bppIndexed
-    Indexed8, ///< PixelFormat8bppIndexed, grey pictures included
-    Rgb555,   ///< PixelFormat16bppRGB555
-    Rgb565,   ///< PixelFormat16bppRGB565
-    Rgb24,    ///< PixelFormat24bppRGB
-    Rgb32,    ///< PixelFormat32bppRGB
-    Argb32    ///< PixelFormat32bppARGB, straight alpha
+    Indexed1,      ///< PixelFormat1bppIndexed
+    Indexed4,      ///< PixelFormat4bppIndexed
+    Indexed8,      ///< PixelFormat8bppIndexed, grey pictures included
+    Indexed8Alpha, ///< PixelFormat8bppIndexed, one colour of the palette being transparent
+    Rgb555,        ///< PixelFormat16bppRGB555
+    Rgb565,        ///< PixelFormat16bppRGB565
+    Rgb24,         ///< PixelFormat24bppRGB
+    Rgb48,         ///< PixelFormat48bppRGB
+    Rgb32,         ///< PixelFormat32bppRGB
+    Argb32         ///< PixelFormat32bppARGB, straight alpha
 };
+
+/// Whether pixels may have an alpha below 255.
+constexpr bool mayBeTransparent(PictureFormat format)
+{
+    return format == PictureFormat::Argb32 || format == PictureFormat::Indexed8Alpha;
+}
 
 /// The resolution of a file that states none, in dots per inch.
 inline constexpr double kDefaultDpi = 96.0;
 
 /// A decoded picture: rows of 32-bit pixels from the top, without gaps between them. Alpha is 255 throughout unless
-/// the format is `Argb32`; colour bytes of transparent pixels are those of the file.
+/// `mayBeTransparent` of the format; colour bytes of transparent pixels are those of the file.
 struct Picture
 {
     int width = 0;

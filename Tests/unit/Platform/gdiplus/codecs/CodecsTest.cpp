@@ -3,8 +3,10 @@
 
 #include "Platform/gdiplus/codecs/FileBytes.h"
 #include "unit/Platform/gdiplus/codecs/BmpFiles.h"
+#include "unit/Platform/gdiplus/codecs/GifFiles.h"
 #include "unit/Platform/gdiplus/codecs/JpegFiles.h"
 #include "unit/Platform/gdiplus/codecs/PngFiles.h"
+#include "unit/Platform/gdiplus/codecs/TiffFiles.h"
 
 #include <gtest/gtest.h>
 
@@ -19,12 +21,18 @@ TEST(DecodePicture, TellsTheFormatFromTheFirstBytes)
 {
     const Bytes png = pngFile({.rows = {{1, 2, 3}}});
     const Bytes jpeg = jpegFile({.samples = smoothSamples(8, 8, 3)});
+    const Bytes gif = gifFile({.indices = {0, 1, 2, 3}, .palette = fourGifColours()});
+    const Bytes tiff = tiffFile({.width = 4, .blocks = {{0, 1, 2, 3}}});
 
     EXPECT_EQ(fileFormat(png), FileFormat::Png);
     EXPECT_EQ(fileFormat(jpeg), FileFormat::Jpeg);
+    EXPECT_EQ(fileFormat(gif), FileFormat::Gif);
+    EXPECT_EQ(fileFormat(tiff), FileFormat::Tiff);
     EXPECT_EQ(fileFormat(bmp24()), FileFormat::Bmp);
     EXPECT_EQ(decodePicture(png)->width, 1);
     EXPECT_EQ(decodePicture(jpeg)->width, 8);
+    EXPECT_EQ(decodePicture(gif)->width, 2);
+    EXPECT_EQ(decodePicture(tiff)->width, 4);
     EXPECT_EQ(decodePicture(bmp24())->width, 3);
 }
 

@@ -3,11 +3,15 @@
 // together or with none; AddressSanitizer watches, as each file lies in a block of exactly its size.
 #include "Platform/gdiplus/codecs/Bmp.h"
 #include "Platform/gdiplus/codecs/Codecs.h"
+#include "Platform/gdiplus/codecs/Gif.h"
 #include "Platform/gdiplus/codecs/Jpeg.h"
 #include "Platform/gdiplus/codecs/Png.h"
+#include "Platform/gdiplus/codecs/Tiff.h"
 #include "unit/Platform/gdiplus/codecs/BmpFiles.h"
+#include "unit/Platform/gdiplus/codecs/GifFiles.h"
 #include "unit/Platform/gdiplus/codecs/JpegFiles.h"
 #include "unit/Platform/gdiplus/codecs/PngFiles.h"
+#include "unit/Platform/gdiplus/codecs/TiffFiles.h"
 
 #include <gtest/gtest.h>
 
@@ -36,6 +40,66 @@ PngContent pngContent(int colourType, int depth, int channels)
     return content;
 }
 
+GifContent gifContent(int frames, bool interlaced)
+{
+    GifContent content{.screenWidth = 9, .screenHeight = 8, .left = 1, .top = 2, .width = 7, .height = 6};
+    content.indices = randomBytes(42, 1);
+    for (std::uint8_t& index : content.indices)
+        index &= 3;
+    content.palette = fourGifColours();
+    content.transparent = 2;
+    content.interlaced = interlaced;
+    content.frames = frames;
+    return content;
+}
+
+std::vector<Sample> gifSamples()
+{
+    const Pixels pixels = randomPixels(20 * 10, 1);
+    return {{"gif", gifFile(gifContent(1, false))},
+            {"gif animation", gifFile(gifContent(2, true))},
+            {"gif encoded", bytesOf(*gdiplus::encodeGif(viewOf(pixels, 20)))}};
+}
+
+std::vector<Sample> tiffSamples()
+{
+    TiffContent plain{.width = 7, .height = 5, .bits = 4, .rowsPerStrip = 2, .orientation = ORIENTATION_RIGHTTOP};
+    plain.photometric = PHOTOMETRIC_PALETTE;
+    plain.palette.resize(3 * 16, 0x8000);
+    plain.blocks = {randomBytes(8, 1), randomBytes(8, 2), randomBytes(4, 3)};
+    TiffContent tiles{.width = 20, .height = 5, .samples = 4, .photometric = PHOTOMETRIC_RGB};
+    tiles.extraSample = EXTRASAMPLE_ASSOCALPHA;
+    tiles.tileWidth = tiles.tileHeight = 16;
+    tiles.compression = COMPRESSION_LZW;
+    tiles.predictor = PREDICTOR_HORIZONTAL;
+    tiles.blocks = {smoothSamples(16, 16, 4), smoothSamples(16, 16, 4)};
+    TiffContent planes{.width = 9, .height = 4, .bits = 16, .samples = 3, .photometric = PHOTOMETRIC_RGB};
+    planes.planes = PLANARCONFIG_SEPARATE;
+    planes.compression = COMPRESSION_ADOBE_DEFLATE;
+    planes.blocks = {smoothSamples(18, 4, 1), smoothSamples(18, 4, 1), smoothSamples(18, 4, 1)};
+    TiffContent fax{.width = 40, .height = 12, .bits = 1, .photometric = PHOTOMETRIC_MINISWHITE};
+    fax.compression = COMPRESSION_CCITTFAX4;
+    fax.blocks = {smoothSamples(5, 12, 1)};
+    TiffContent oldFax = fax;
+    oldFax.compression = COMPRESSION_CCITTFAX3;
+    TiffContent photograph{.width = 16, .height = 16, .samples = 3, .photometric = PHOTOMETRIC_YCBCR};
+    photograph.compression = COMPRESSION_JPEG;
+    photograph.blocks = {smoothSamples(16, 16, 3)};
+    TiffContent bytes{.width = 12, .height = 6, .samples = 3, .photometric = PHOTOMETRIC_RGB};
+    bytes.compression = COMPRESSION_PACKBITS;
+    bytes.blocks = {smoothSamples(12, 6, 3)};
+    TiffContent inks{.width = 4, .height = 4, .samples = 4, .photometric = PHOTOMETRIC_SEPARATED};
+    inks.blocks = {randomBytes(64, 4)};
+    return {{"tiff plain", tiffFile(plain)},
+            {"tiff tiles", compressedTiffFile(tiles)},
+            {"tiff planes", compressedTiffFile(planes)},
+            {"tiff fax", compressedTiffFile(fax)},
+            {"tiff old fax", compressedTiffFile(oldFax)},
+            {"tiff photograph", compressedTiffFile(photograph)},
+            {"tiff bytes", compressedTiffFile(bytes)},
+            {"tiff inks", tiffFile(inks)}};
+}
+
 std::vector<Sample> samples()
 {
     PngContent palette = pngContent(PNG_COLOR_TYPE_PALETTE, 4, 1);
@@ -48,16 +112,19 @@ std::vector<Sample> samples()
     JpegContent progressive = photograph;
     progressive.progressive = true;
     JpegContent inks{.width = 9, .height = 9, .input = JCS_CMYK, .stored = JCS_YCCK, .samples = smoothSamples(9, 9, 4)};
-    return {{"png colours", pngFile(colours)},
-            {"png palette", pngFile(palette)},
-            {"png grey", pngFile(pngContent(PNG_COLOR_TYPE_GRAY, 16, 1))},
-            {"jpeg", jpegFile(photograph)},
-            {"jpeg progressive", jpegFile(progressive)},
-            {"jpeg inks", jpegFile(inks)},
-            {"bmp 24", bmp24()},
-            {"bmp rle 8", bmpRle8()},
-            {"bmp rle 4", bmpRle4()},
-            {"bmp v5", bmpV5()}};
+    std::vector<Sample> all{{"png colours", pngFile(colours)},
+                            {"png palette", pngFile(palette)},
+                            {"png grey", pngFile(pngContent(PNG_COLOR_TYPE_GRAY, 16, 1))},
+                            {"jpeg", jpegFile(photograph)},
+                            {"jpeg progressive", jpegFile(progressive)},
+                            {"jpeg inks", jpegFile(inks)},
+                            {"bmp 24", bmp24()},
+                            {"bmp rle 8", bmpRle8()},
+                            {"bmp rle 4", bmpRle4()},
+                            {"bmp v5", bmpV5()}};
+    for (const auto& more : {gifSamples(), tiffSamples()})
+        all.insert(all.end(), more.begin(), more.end());
+    return all;
 }
 
 /// Decodes from a block of exactly the file's size and reads every pixel.
@@ -75,7 +142,7 @@ std::optional<Picture> decoded(std::span<const std::uint8_t> file)
     const std::size_t count = static_cast<std::size_t>(picture->width) * static_cast<std::size_t>(picture->height);
     for (std::size_t i = 0; i < count; ++i)
         opaque = opaque && picture->pixels[i] >= 0xFF000000;
-    EXPECT_TRUE(opaque || picture->format == gdiplus::PictureFormat::Argb32);
+    EXPECT_TRUE(opaque || gdiplus::mayBeTransparent(picture->format));
     return picture;
 }
 
@@ -228,6 +295,9 @@ TEST(Encoders, GiveNoFileWhenAnyAllocationFails)
     failEachAllocation([&] { return gdiplus::encodePng(viewOf(pixels, 100)).has_value(); }, 4);
     failEachAllocation([&] { return gdiplus::encodeJpeg(viewOf(pixels, 100), 100).has_value(); }, 1);
     failEachAllocation([&] { return gdiplus::encodeBmp(viewOf(pixels, 100)).has_value(); }, 1);
+    failEachAllocation([&] { return gdiplus::encodeGif(viewOf(pixels, 100)).has_value(); }, 2);
+    const auto tiff = [&] { return gdiplus::encodeTiff(viewOf(pixels, 100), gdiplus::TiffSamples::Rgba).has_value(); };
+    failEachAllocation(tiff, 2);
 }
 
 TEST(AbsurdSizes, OfPngAreRefused)
@@ -274,6 +344,98 @@ TEST(AbsurdSizes, OfBmpAreRefused)
             put32(file, 22, height);
             EXPECT_FALSE(decoded(file)) << width << " x " << height;
         }
+}
+
+TEST(AbsurdSizes, OfGifAreRefused)
+{
+    for (const auto& [width, height] : {std::pair{65535, 65535}, {16384, 16384}, {2000, 2000}}) {
+        GifContent screen = gifContent(1, false);
+        screen.screenWidth = width;
+        screen.screenHeight = height;
+        EXPECT_FALSE(decoded(gifFile(screen))) << width << " x " << height;
+        GifContent frame = gifContent(1, false);
+        frame.width = width;
+        frame.height = height;
+        EXPECT_FALSE(decoded(gifFile(frame))) << width << " x " << height;
+        GifContent place = gifContent(1, false);
+        place.left = width;
+        place.top = height;
+        EXPECT_FALSE(decoded(gifFile(place))) << width << " x " << height;
+    }
+}
+
+TEST(AbsurdSizes, OfTiffAreRefused)
+{
+    for (const auto& [width, height] : {std::pair{0x7FFFFFFF, 0x7FFFFFFF},
+                                        {-1, -1},
+                                        {-1, 1},
+                                        {1, -1},
+                                        {0, 1},
+                                        {1, 0},
+                                        {16384, 16384},
+                                        {1'000'000, 268},
+                                        {268, 1'000'000},
+                                        {3000, 3000}})
+        for (const int compression : {COMPRESSION_NONE, COMPRESSION_LZW, COMPRESSION_CCITTFAX4, COMPRESSION_JPEG})
+            for (const int rowsPerStrip : {1, 0x7FFFFFFF}) {
+                TiffContent content{.width = width, .height = height, .bits = 1, .compression = compression};
+                content.rowsPerStrip = rowsPerStrip;
+                content.blocks = {Bytes(20)};
+                EXPECT_FALSE(decoded(tiffFile(content))) << width << " x " << height;
+            }
+}
+
+TEST(AbsurdSizes, OfTilesSamplesAndResolutionsAreRefusedOrHarmless)
+{
+    TiffContent content{.width = 1, .height = 1, .blocks = {Bytes(20)}};
+    for (const auto& [width, height] : {std::pair{16, 0x7FFFFFF0}, {0x7FFFFFF0, 16}, {-16, -16}, {16384, 16384}}) {
+        content.tileWidth = width;
+        content.tileHeight = height;
+        EXPECT_FALSE(decoded(tiffFile(content))) << width << " x " << height;
+    }
+    content.tileWidth = 0;
+    content.samples = 60000;
+    content.extraSample = EXTRASAMPLE_UNSPECIFIED;
+    decoded(tiffFile(content));
+}
+
+/// LZW codes of nine bits: 256, which clears the table, again and again, then a single 0 and the end.
+Bytes lzwOfOneByte(std::size_t clears)
+{
+    std::vector<bool> bits;
+    const auto put = [&](unsigned code) {
+        for (int bit = 8; bit >= 0; --bit)
+            bits.push_back((code >> bit & 1) != 0);
+    };
+    for (std::size_t i = 0; i < clears; ++i)
+        put(256);
+    put(0);
+    put(257);
+    Bytes bytes((bits.size() + 15) / 16 * 2);
+    for (std::size_t i = 0; i < bits.size(); ++i)
+        bytes[i / 8] |= static_cast<std::uint8_t>(bits[i] ? 0x80 >> i % 8 : 0);
+    return bytes;
+}
+
+TEST(AbsurdSizes, StripsThatShareBytesAreNoEndlessWork)
+{
+    constexpr std::uint32_t kStrips = 60'000;
+    const Bytes strip = lzwOfOneByte(180'000);
+    TiffContent content{.width = 1, .height = kStrips, .compression = COMPRESSION_LZW, .rowsPerStrip = 1};
+    content.blocks.assign(kStrips, Bytes());
+    content.blocks[0] = strip;
+    Bytes file = tiffFile(content); // the tables of offsets and lengths lie behind the strip
+    for (std::uint32_t i = 0; i < kStrips; ++i) {
+        put32(file, 8 + strip.size() + 4 * i, 8);
+        put32(file, 8 + strip.size() + 4 * (kStrips + i), static_cast<std::uint32_t>(strip.size()));
+    }
+    ASSERT_EQ(tiffTags(file).at(TIFFTAG_STRIPOFFSETS).back(), 8u);
+    ASSERT_EQ(tiffTags(file).at(TIFFTAG_STRIPBYTECOUNTS).back(), strip.size());
+    EXPECT_FALSE(decoded(file));
+
+    content.height = 1;
+    content.blocks.resize(1);
+    EXPECT_TRUE(decoded(tiffFile(content))) << "one of them is a picture";
 }
 
 } // namespace
