@@ -3,8 +3,10 @@
 
 #include "Platform/gdiplus/Started.h"
 #include "Platform/gdiplus/codecs/Bmp.h"
+#include "Platform/gdiplus/codecs/Gif.h"
 #include "Platform/gdiplus/codecs/Jpeg.h"
 #include "Platform/gdiplus/codecs/Png.h"
+#include "Platform/gdiplus/codecs/Tiff.h"
 
 #include <algorithm>
 
@@ -14,9 +16,9 @@ namespace {
 using FileOrNothing = std::optional<FileBytes>;
 using Gdiplus::EncoderParameters;
 
-FileOrNothing bmp(ConstPixelView pixels, Resolution resolution, const EncoderParameters*)
+FileOrNothing bmp(const PixelStore& store, ConstPixelView pixels, const EncoderParameters*)
 {
-    return encodeBmp(pixels, resolution.x, resolution.y);
+    return encodeBmp(pixels, store.resolution.x, store.resolution.y);
 }
 
 /// A quality among the parameters counts when it is a LONG, as GDI+ asks for.
@@ -31,14 +33,26 @@ int quality(const EncoderParameters* parameters)
     return kDefaultJpegQuality;
 }
 
-FileOrNothing jpeg(ConstPixelView pixels, Resolution resolution, const EncoderParameters* parameters)
+FileOrNothing jpeg(const PixelStore& store, ConstPixelView pixels, const EncoderParameters* parameters)
 {
-    return encodeJpeg(pixels, quality(parameters), resolution.x, resolution.y);
+    return encodeJpeg(pixels, quality(parameters), store.resolution.x, store.resolution.y);
 }
 
-FileOrNothing png(ConstPixelView pixels, Resolution resolution, const EncoderParameters*)
+FileOrNothing gif(const PixelStore&, ConstPixelView pixels, const EncoderParameters*)
 {
-    return encodePng(pixels, resolution.x, resolution.y);
+    return encodeGif(pixels);
+}
+
+/// As .NET's tests, run on Windows, say: 32 bits with and without alpha become 32 bits with it.
+FileOrNothing tiff(const PixelStore& store, ConstPixelView pixels, const EncoderParameters*)
+{
+    const bool isRgba = store.layout == Layout::Straight || Gdiplus::GetPixelFormatSize(store.format) == 32;
+    return encodeTiff(pixels, isRgba ? TiffSamples::Rgba : TiffSamples::Rgb, store.resolution.x, store.resolution.y);
+}
+
+FileOrNothing png(const PixelStore& store, ConstPixelView pixels, const EncoderParameters*)
+{
+    return encodePng(pixels, store.resolution.x, store.resolution.y);
 }
 
 struct Encoder
@@ -54,8 +68,8 @@ struct Encoder
     const char* masks;
     DWORD signatureCount;
     DWORD signatureSize;
-    /// Null where pictures cannot be written yet.
-    FileOrNothing (*encode)(ConstPixelView, Resolution, const EncoderParameters*);
+    /// The pixels of a store, made straight, as a file.
+    FileOrNothing (*encode)(const PixelStore&, ConstPixelView, const EncoderParameters*);
 };
 
 /// {557CF4nn-1A04-11D3-9A73-0000F81EF32E}
@@ -70,9 +84,9 @@ constexpr Encoder kEncoders[] = {
     {encoderId(1), Gdiplus::ImageFormatJPEG, L"Built-in JPEG Codec", L"JPEG", L"*.JPG;*.JPEG;*.JPE;*.JFIF",
      L"image/jpeg", "\xFF\xD8", "\xFF\xFF", 1, 2, jpeg},
     {encoderId(2), Gdiplus::ImageFormatGIF, L"Built-in GIF Codec", L"GIF", L"*.GIF", L"image/gif", "GIF89aGIF87a",
-     "\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF", 2, 6, nullptr},
+     "\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF", 2, 6, gif},
     {encoderId(5), Gdiplus::ImageFormatTIFF, L"Built-in TIFF Codec", L"TIFF", L"*.TIF;*.TIFF", L"image/tiff", "IIMM",
-     "\xFF\xFF\xFF\xFF", 2, 2, nullptr},
+     "\xFF\xFF\xFF\xFF", 2, 2, tiff},
     {encoderId(6), Gdiplus::ImageFormatPNG, L"Built-in PNG Codec", L"PNG", L"*.PNG", L"image/png", "\x89PNG\r\n\x1A\n",
      "\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF", 1, 8, png},
 };
@@ -104,9 +118,7 @@ Encoded encode(const PixelStore& store, const CLSID& encoder, const EncoderParam
     const auto found = std::ranges::find(kEncoders, encoder, &Encoder::id);
     if (found == std::end(kEncoders))
         return {{}, Gdiplus::UnknownImageFormat};
-    if (!found->encode)
-        return {{}, Gdiplus::NotImplemented};
-    auto file = found->encode(StraightPixels(store).view(), store.resolution, parameters);
+    auto file = found->encode(store, StraightPixels(store).view(), parameters);
     if (!file)
         return {{}, Gdiplus::GenericError};
     return {std::move(*file), Gdiplus::Ok};

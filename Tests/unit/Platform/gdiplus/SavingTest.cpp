@@ -109,7 +109,7 @@ TEST_F(Saving, PathsMayHaveBackslashesAndAnyLetters)
 TEST_F(Saving, EveryEncoderWritesWhatItsDecoderReads)
 {
     TestPicture picture(2, 2, 0xFF808080);
-    for (const DWORD encoder : {kBmp, kJpeg, kPng}) {
+    for (const DWORD encoder : {kBmp, kJpeg, kGif, kTiff, kPng}) {
         ASSERT_EQ(save(picture.bitmap, path("picture"), encoder), Ok) << encoder;
         Bitmap loaded(path("picture").wstring().c_str());
         EXPECT_EQ(loaded.GetLastStatus(), Ok) << encoder;
