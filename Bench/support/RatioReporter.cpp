@@ -42,13 +42,21 @@ void RatioReporter::Finalize()
     for (const std::string& work : m_order) {
         const auto& times = m_works[work];
         const auto own = times.find(kUs);
-        if (own == times.end())
-            continue;
-        const auto [least, most] = std::minmax_element(own->second.begin(), own->second.end());
-        std::printf("%-36s %9.3f %7.3f ..%6.3f  ", work.c_str(), median(own->second), *least, *most);
-        for (const auto& [who, theirs] : times)
-            if (who != kUs)
-                std::printf(" %s %.3f (%.2f)", who.c_str(), median(theirs), median(own->second) / median(theirs));
+        const bool haveOwn = own != times.end();
+        std::printf("%-36s ", work.c_str());
+        if (haveOwn) {
+            const auto [least, most] = std::minmax_element(own->second.begin(), own->second.end());
+            std::printf("%9.3f %7.3f ..%6.3f  ", median(own->second), *least, *most);
+        } else {
+            std::printf("%9s %7s ..%6s  ", "-", "-", "-");
+        }
+        for (const auto& [who, theirs] : times) {
+            if (who == kUs)
+                continue;
+            std::printf(" %s %.3f", who.c_str(), median(theirs));
+            if (haveOwn)
+                std::printf(" (%.2f)", median(own->second) / median(theirs));
+        }
         std::printf("\n");
     }
 }

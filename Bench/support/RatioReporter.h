@@ -8,7 +8,8 @@
 #include <vector>
 
 /// Prints one row for each piece of work: our median time, the spread of our runs, and each peer's median with the
-/// ratio of ours to it. A benchmark is named `work/size/who`; `who` is "VQDraw" for us.
+/// ratio of ours to it. A benchmark is named `work/size/who`; `who` is "VQDraw" for us. Work that we did not do shows
+/// the peers' times alone.
 class RatioReporter : public benchmark::BenchmarkReporter
 {
 public:
