@@ -1,18 +1,12 @@
 // SPDX-License-Identifier: MIT
 // Puts the image class to work on a photograph:  photograph PICTURE FOLDER
 #include "support/Gallery.h"
+#include "support/GdiPlus.h"
 
 #include <algorithm>
 #include <cstdio>
 
 namespace {
-
-/// GDI+ runs while this lives, and outlives every image made in its scope.
-struct GdiPlus
-{
-    const bool started = CVQDIB::InitializeGDIPlus() == 1;
-    ~GdiPlus() { CVQDIB::ShutdownGDIPlus(); }
-};
 
 /// A photograph of 12 million pixels would make a page of megabytes: steps work on one of at most 1024 pixels a side.
 void limitSize(CVQDIB& image)
