@@ -23,8 +23,9 @@ void drawSteps(const Cell& cell)
     constexpr int kSteps = 8;
     for (int i = 0; i < kSteps; ++i) {
         const SolidBrush brush(redOf(static_cast<BYTE>(255 * (i + 1) / kSteps)));
-        cell.graphics.FillRectangle(&brush, cell.left + cell.width * i / kSteps, cell.top, cell.width / kSteps,
-                                    cell.height);
+        const int left = cell.left + cell.width * i / kSteps;
+        const int right = cell.left + cell.width * (i + 1) / kSteps;
+        cell.graphics.FillRectangle(&brush, left, cell.top, right - left, cell.height);
     }
 }
 

@@ -47,7 +47,7 @@ const Join kJoins[] = {{L"LineJoinMiter", LineJoinMiter},
 void drawJoin(const Cell& cell, const Join& join)
 {
     const PointF points[] = {cell.at(0.05, 0.8), cell.at(0.3, 0.2),   cell.at(0.45, 0.8),
-                             cell.at(0.55, 0.3), cell.at(0.95, 0.35), cell.at(0.7, 0.7)};
+                             cell.at(0.55, 0.3), cell.at(0.86, 0.35), cell.at(0.7, 0.7)};
     Pen pen(kGlass, 14);
     pen.SetLineJoin(join.value);
     cell.graphics.DrawLines(&pen, points, static_cast<INT>(std::size(points)));

@@ -32,7 +32,7 @@ void drawScript(const Cell& cell, const Script& script)
 {
     const SolidBrush brush(Color(20, 20, 20));
     cell.graphics.SetTextRenderingHint(TextRenderingHintAntiAlias);
-    drawText(cell.graphics, script.text, *makeFont({20}), static_cast<float>(cell.left), static_cast<float>(cell.top),
+    drawText(cell.graphics, script.text, *makeFont({18}), static_cast<float>(cell.left), static_cast<float>(cell.top),
              brush);
 }
 

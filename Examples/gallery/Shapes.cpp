@@ -111,8 +111,8 @@ void drawCurves(const Cell& cell)
 {
     const Pen pen(kInk, 2);
     const Pen thin(Color(180, 180, 180), 1);
-    for (const double pull : {0.0, 0.4, 0.8, 1.2}) {
-        const PointF points[] = {cell.at(0, 0.9), cell.at(0.2, 0.9 - pull), cell.at(0.8, 0.1 + pull), cell.at(1, 0.1)};
+    for (const double pull : {0.3, 0.7, 1.0}) {
+        const PointF points[] = {cell.at(0, 1), cell.at(pull, 0), cell.at(1 - pull, 0.2), cell.at(1, 0.9)};
         cell.graphics.DrawLines(&thin, points, 4);
         cell.graphics.DrawBezier(&pen, points[0], points[1], points[2], points[3]);
     }
