@@ -62,6 +62,15 @@ inline constexpr std::array kKnownDifferences{
     KnownDifference{"gradient tiles flipped across", "TileFlipY repeats a gradient as Tile does", "mirrors it as TileFlipX does", "Wine mirrors for every flip"},
     KnownDifference{"gamma of gradients", "interpolates light", "setting ignored", "not implemented in Wine"},
     KnownDifference{"range of triangular shapes", "focus and scale of 0 to 1 only", "every number", "Wine does not check"},
+    KnownDifference{"height of measured text", "the lines and an eighth of an em", "the lines", "Wine adds nothing"},
+    KnownDifference{"spaces at the end of a line", "not measured", "measured", "Wine counts them among the text"},
+    KnownDifference{"place of measured text", "moved by the alignment", "the layout's corner", "Wine measures the lines alone"},
+    KnownDifference{"text under SourceCopy", "InvalidParameter", "is drawn", "Wine does not check"},
+    KnownDifference{"text hints", "two levels or grey, hinted or not", "always grey", "Wine draws bitmaps' text from outlines"},
+    KnownDifference{"text and its rectangle", "clipped to it; whole without clipping and trimming", "not clipped on bitmaps; always trimmed", "Wine clips through GDI only"},
+    KnownDifference{"line breaks among fitted characters", "counted", "not counted at the end", "Wine skips them"},
+    KnownDifference{"raster fonts", "NotTrueTypeFont", "a similar outline font", "Wine has no raster fonts installed"},
+    KnownDifference{"faces of Windows", "found; our layer has stand-ins", "not found", "Wine runs with DejaVu fonts only"},
     KnownDifference{"screen without a display", "a desktop in memory", "drawing has no effect", "Wine's driver for no display drops it"},
 };
 // clang-format on

@@ -103,9 +103,18 @@ public:
     };
     Found find(std::uint32_t colour) const
     {
+        return findIf([colour](std::uint32_t pixel) { return pixel == colour; });
+    }
+    Found findOther(std::uint32_t colour) const
+    {
+        return findIf([colour](std::uint32_t pixel) { return pixel != colour; });
+    }
+    template <typename Condition>
+    Found findIf(Condition condition) const
+    {
         Found found{m_width, 1 << 20, -1, -1, 0};
         for (int i = 0; i < static_cast<int>(m_pixels.size()); ++i)
-            if (m_pixels[static_cast<std::size_t>(i)] == colour)
+            if (condition(m_pixels[static_cast<std::size_t>(i)]))
                 found = {std::min(found.left, i % m_width), std::min(found.top, i / m_width),
                          std::max(found.right, i % m_width), std::max(found.bottom, i / m_width), found.count + 1};
         return found;

@@ -93,6 +93,18 @@ enum HatchStyle : INT {
     HatchStyleMax = HatchStyleTotal - 1
 };
 
+/// The values can be combined.
+enum FontStyle : INT {
+    FontStyleRegular = 0,
+    FontStyleBold = 1,
+    FontStyleItalic = 2,
+    FontStyleBoldItalic = 3,
+    FontStyleUnderline = 4,
+    FontStyleStrikeout = 8
+};
+
+enum HotkeyPrefix : INT { HotkeyPrefixNone = 0, HotkeyPrefixShow = 1, HotkeyPrefixHide = 2 };
+
 enum ImageType : INT { ImageTypeUnknown = 0, ImageTypeBitmap = 1, ImageTypeMetafile = 2 };
 
 enum InterpolationMode : INT {
@@ -153,6 +165,31 @@ enum SmoothingMode : INT {
     SmoothingModeAntiAlias8x4 = 4,
     SmoothingModeAntiAlias = SmoothingModeAntiAlias8x4,
     SmoothingModeAntiAlias8x8 = 5
+};
+
+/// Left or top, centre, right or bottom; in text that runs to the left near is right.
+enum StringAlignment : INT { StringAlignmentNear = 0, StringAlignmentCenter = 1, StringAlignmentFar = 2 };
+
+/// The values can be combined.
+enum StringFormatFlags : INT {
+    StringFormatFlagsDirectionRightToLeft = 0x00000001,
+    StringFormatFlagsDirectionVertical = 0x00000002,
+    StringFormatFlagsNoFitBlackBox = 0x00000004,
+    StringFormatFlagsDisplayFormatControl = 0x00000020,
+    StringFormatFlagsNoFontFallback = 0x00000400,
+    StringFormatFlagsMeasureTrailingSpaces = 0x00000800,
+    StringFormatFlagsNoWrap = 0x00001000,
+    StringFormatFlagsLineLimit = 0x00002000,
+    StringFormatFlagsNoClip = 0x00004000
+};
+
+enum StringTrimming : INT {
+    StringTrimmingNone = 0,
+    StringTrimmingCharacter = 1,
+    StringTrimmingWord = 2,
+    StringTrimmingEllipsisCharacter = 3,
+    StringTrimmingEllipsisWord = 4,
+    StringTrimmingEllipsisPath = 5
 };
 
 enum TextRenderingHint : INT {

@@ -55,6 +55,7 @@ using LPDWORD = DWORD*;
 using COLORREF = DWORD;
 using HRESULT = LONG;
 using ATOM = WORD;
+using LANGID = WORD;
 
 // Macros as on Windows: C libraries define the same two names, whichever header comes first.
 #if !defined(FALSE)
@@ -65,6 +66,7 @@ using ATOM = WORD;
 #endif
 
 constexpr int MAX_PATH = 260;
+constexpr LANGID LANG_NEUTRAL = 0;
 
 #define WINAPI
 #define CALLBACK

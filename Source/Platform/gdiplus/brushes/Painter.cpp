@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/gdiplus/brushes/Painter.h"
 
+#include "Platform/gdiplus/compositor/CompositingFormulas.h"
+
 #include <algorithm>
 #include <array>
 
@@ -9,6 +11,25 @@ namespace {
 
 /// Pixels that are shaded at a time.
 constexpr std::size_t kBlock = 256;
+
+Channel alphaChannel(Pixel colour)
+{
+    return static_cast<Channel>(alphaOf(colour));
+}
+
+/// A row of a picture over a row, all of it covered alike.
+void compositePicture(std::span<Pixel> destination, std::span<const Pixel> source, Channel coverage, Blend blend)
+{
+    if (coverage == 255)
+        return compositeRow(destination, source, blend);
+    std::array<Channel, kBlock> same;
+    same.fill(coverage);
+    for (std::size_t first = 0; first < source.size(); first += kBlock) {
+        const std::size_t count = std::min(kBlock, source.size() - first);
+        compositeRow(destination.subspan(first, count), source.subspan(first, count), std::span(same).first(count),
+                     blend);
+    }
+}
 
 } // namespace
 
@@ -76,6 +97,20 @@ void Painter::run(int x, int y, std::span<const Channel> coverage) const
         [=](std::span<Pixel> run, Pixel colour) { compositeColour(run, colour, coverage, blend); },
         [=](std::span<Pixel> run, std::span<const Pixel> colours, std::size_t first) {
             compositeRow(run, colours, coverage.subspan(first, run.size()), blend);
+        });
+}
+
+void Painter::picture(int x, int y, std::span<const Pixel> pixels) const
+{
+    const Blend blend = m_canvas.blend;
+    std::array<Channel, kBlock> alphas;
+    paint(
+        x, y, pixels.size(),
+        [=](std::span<Pixel> run, Pixel colour) { compositePicture(run, pixels, alphaChannel(colour), blend); },
+        [&](std::span<Pixel> run, std::span<const Pixel> colours, std::size_t first) {
+            const auto coverage = std::span(alphas).first(run.size());
+            std::ranges::transform(colours, coverage.begin(), alphaChannel);
+            compositeRow(run, pixels.subspan(first, run.size()), coverage, blend);
         });
 }
 

@@ -27,6 +27,8 @@ public:
     void run(int x, int y, int length, Channel coverage) const;
     /// A run with a coverage for each pixel.
     void run(int x, int y, std::span<const Channel> coverage) const;
+    /// A run of a picture, straight alpha; what the brush adds is its alpha.
+    void picture(int x, int y, std::span<const Pixel> pixels) const;
 
 private:
     template <typename Solid, typename Shaded>

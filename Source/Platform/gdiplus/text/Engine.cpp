@@ -70,9 +70,10 @@ Engine::FontView::FontView(const FontDescription& font) : description(&font)
     hash = spread(value);
 }
 
-Engine::TextView::TextView(std::uint64_t fontId, std::wstring_view characters) : font(fontId), text(characters)
+Engine::TextView::TextView(std::uint64_t fontId, bool runsLeft, std::wstring_view characters)
+    : font(fontId), rightToLeft(runsLeft), text(characters)
 {
-    std::size_t value = fontId;
+    std::size_t value = fontId * 2 + (runsLeft ? 1 : 0);
     for (const wchar_t character : characters)
         value = mix(value, static_cast<std::uint32_t>(character));
     hash = spread(value);
@@ -96,8 +97,8 @@ std::shared_ptr<const Font> Engine::makeFont(const FontDescription& description)
     const float em = emFor(description, metrics);
     if (!isPossible(em))
         return nullptr;
-    return std::make_shared<const Font>(
-        Font{description, metrics, em, typeface.candidate(Typeface::kBase).family, process.nextFont++});
+    const FontCandidate& base = typeface.candidate(Typeface::kBase);
+    return std::make_shared<const Font>(Font{description, metrics, em, base.family, base.asked, process.nextFont++});
 }
 
 std::shared_ptr<const Font> Engine::font(const FontDescription& description)
@@ -110,17 +111,17 @@ std::shared_ptr<const Font> Engine::font(const FontDescription& description)
     return font ? m_fonts.insert(description, std::move(font), 1) : nullptr;
 }
 
-const ShapedText& Engine::shaped(const Font& font, std::wstring_view text)
+const ShapedText& Engine::shaped(const Font& font, std::wstring_view text, bool rightToLeft)
 {
-    const TextView view(font.id, text);
+    const TextView view(font.id, rightToLeft, text);
     if (const ShapedText* found = m_texts.find(view))
         return *found;
     Typeface& typeface = typefaceOf(font.description);
-    ShapedText result = typeface.usable() ? m_shaper.shape(font, typeface, m_faces, text) : ShapedText{};
+    ShapedText result = typeface.usable() ? m_shaper.shape(font, typeface, m_faces, text, rightToLeft) : ShapedText{};
     const std::size_t cost = result.bytes() + sizeof(TextKey) + text.size() * sizeof(wchar_t);
     if (cost > kTextBytes / kLongTextShare)
         return m_longText = std::move(result);
-    return m_texts.insert({font.id, std::wstring(text)}, std::move(result), cost);
+    return m_texts.insert({font.id, rightToLeft, std::wstring(text)}, std::move(result), cost);
 }
 
 void Engine::endOfCall()

@@ -22,7 +22,7 @@ public:
     std::shared_ptr<const Font> font(const FontDescription& description);
 
     /// The glyphs of a text, until the next call of this member.
-    const ShapedText& shaped(const Font& font, std::wstring_view text);
+    const ShapedText& shaped(const Font& font, std::wstring_view text, bool rightToLeft);
 
     /// A glyph that fits the cache; stays until the next call of this member.
     const GlyphImage& glyph(Face& face, std::uint32_t glyph, const GlyphStyle& style, int subpixelX, int subpixelY);
@@ -51,15 +51,20 @@ private:
     struct TextKey
     {
         std::uint64_t font;
+        bool rightToLeft;
         std::wstring text;
     };
     struct TextView
     {
-        TextView(std::uint64_t fontId, std::wstring_view characters);
-        explicit TextView(const TextKey& key) : TextView(key.font, key.text) {}
-        bool operator==(const TextKey& key) const { return font == key.font && text == key.text; }
+        TextView(std::uint64_t fontId, bool runsLeft, std::wstring_view characters);
+        explicit TextView(const TextKey& key) : TextView(key.font, key.rightToLeft, key.text) {}
+        bool operator==(const TextKey& key) const
+        {
+            return font == key.font && rightToLeft == key.rightToLeft && text == key.text;
+        }
 
         std::uint64_t font;
+        bool rightToLeft;
         std::wstring_view text;
         std::size_t hash;
     };

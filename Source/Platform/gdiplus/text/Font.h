@@ -28,6 +28,7 @@ struct Font
     FontMetrics metrics;
     float em;           ///< pixels
     std::string family; ///< what stands behind the face's name, UTF-8
+    bool held;          ///< the face that was asked for is installed, and no other stands in for it
     std::uint64_t id;   ///< never given twice while the library is loaded
 
     double pixels(int designUnits) const { return static_cast<double>(em) * designUnits / metrics.unitsPerEm; }

@@ -40,21 +40,31 @@ std::u16string_view withoutVerticalMark(std::u16string_view face)
     return face.starts_with(u'@') ? face.substr(1) : face;
 }
 
-void addFamily(FcPattern* pattern, std::u16string_view face)
+std::string utf8(std::u16string_view text)
 {
-    std::string utf8;
-    for (std::size_t i = 0; i < face.size(); ++i) {
-        FcChar32 character = face[i];
-        const bool pair = (character & 0xFC00) == 0xD800 && i + 1 < face.size() && (face[i + 1] & 0xFC00) == 0xDC00;
+    std::string result;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        FcChar32 character = text[i];
+        const bool pair = (character & 0xFC00) == 0xD800 && i + 1 < text.size() && (text[i + 1] & 0xFC00) == 0xDC00;
         if (pair)
-            character = 0x10000 + ((character & 0x3FF) << 10) + (face[++i] & 0x3FFU);
+            character = 0x10000 + ((character & 0x3FF) << 10) + (text[++i] & 0x3FFU);
         else if ((character & 0xF800) == 0xD800)
             character = 0xFFFD;
         FcChar8 encoded[FC_UTF8_MAX_LEN];
         const int length = FcUcs4ToUtf8(character, encoded);
-        utf8.append(reinterpret_cast<const char*>(encoded), static_cast<std::size_t>(length));
+        result.append(reinterpret_cast<const char*>(encoded), static_cast<std::size_t>(length));
     }
-    FcPatternAddString(pattern, FC_FAMILY, bytes(utf8.c_str()));
+    return result;
+}
+
+/// Fonts may have several family names, those of other languages among them.
+bool hasFamily(const FcPattern* font, const std::string& family)
+{
+    FcChar8* name = nullptr;
+    for (int i = 0; FcPatternGetString(font, FC_FAMILY, i, &name) == FcResultMatch; ++i)
+        if (FcStrCmpIgnoreCase(name, bytes(family.c_str())) == 0)
+            return true;
+    return false;
 }
 
 PatternHandle patternFor(const FontDescription& description)
@@ -64,7 +74,7 @@ PatternHandle patternFor(const FontDescription& description)
         return pattern;
     const std::u16string_view face = withoutVerticalMark(description.faceName());
     if (!face.empty())
-        addFamily(pattern.get(), face);
+        FcPatternAddString(pattern.get(), FC_FAMILY, bytes(utf8(face).c_str()));
     for (const char* family : substitutesFor(face))
         FcPatternAddString(pattern.get(), FC_FAMILY, bytes(family));
     FcPatternAddString(pattern.get(), FC_FAMILY, bytes(genericFamily(face, description.fontClass)));
@@ -91,6 +101,7 @@ std::optional<FontCandidate> candidateFrom(const FcPattern* font, const FontDesc
     candidate.index = number(font, FC_INDEX, 0);
     candidate.family = text(font, FC_FAMILY);
     candidate.characters = characters;
+    candidate.asked = hasFamily(font, utf8(withoutVerticalMark(description.faceName())));
     candidate.colour = colour;
     candidate.emboldened =
         description.bold && !colour && number(font, FC_WEIGHT, FC_WEIGHT_REGULAR) < FC_WEIGHT_DEMIBOLD;

@@ -16,6 +16,7 @@ struct FontCandidate
     int index; ///< of the font in its file; the upper half names an instance of a variable font, 0 none
     const char* family;
     const FcCharSet* characters;
+    bool asked;      ///< it is of the face that was asked for
     bool colour;     ///< pictures of its own, as emoji have
     bool emboldened; ///< bold was asked for and has to be made
     bool slanted;    ///< italic was asked for and has to be made

@@ -49,12 +49,13 @@ bool isOfNoScript(hb_script_t script)
 
 } // namespace
 
-/// Paragraphs run from left to right whatever they hold: GDI+'s default format says so.
-void Itemiser::findLevels(std::span<const char32_t> paragraph)
+/// The direction of paragraphs does not depend on what they hold: GDI+'s format says it.
+void Itemiser::findLevels(std::span<const char32_t> paragraph, bool rightToLeft)
 {
-    m_levels.assign(paragraph.size(), 0);
+    const FriBidiLevel level = rightToLeft ? 1 : 0;
+    m_levels.assign(paragraph.size(), level);
     constexpr std::size_t kLongest = std::numeric_limits<FriBidiStrIndex>::max();
-    if (paragraph.size() > kLongest || std::ranges::none_of(paragraph, affectsDirection))
+    if (paragraph.size() > kLongest || (!rightToLeft && std::ranges::none_of(paragraph, affectsDirection)))
         return;
 
     static_assert(sizeof(char32_t) == sizeof(FriBidiChar));
@@ -64,11 +65,11 @@ void Itemiser::findLevels(std::span<const char32_t> paragraph)
     m_brackets.resize(paragraph.size());
     fribidi_get_bidi_types(text, length, m_types.data());
     fribidi_get_bracket_types(text, length, m_types.data(), m_brackets.data());
-    FriBidiParType direction = FRIBIDI_PAR_LTR;
+    FriBidiParType direction = rightToLeft ? FRIBIDI_PAR_RTL : FRIBIDI_PAR_LTR;
     const FriBidiLevel highest =
         fribidi_get_par_embedding_levels_ex(m_types.data(), m_brackets.data(), length, &direction, m_levels.data());
     if (highest == 0) // out of memory
-        m_levels.assign(paragraph.size(), 0);
+        m_levels.assign(paragraph.size(), level);
 }
 
 /// Characters that several scripts share take that of the text before them, at the beginning that of the text after.
@@ -100,9 +101,10 @@ void Itemiser::findFonts(std::span<const char32_t> paragraph, Typeface& typeface
     }
 }
 
-void Itemiser::itemise(std::span<const char32_t> paragraph, Typeface& typeface, std::vector<Item>& items)
+void Itemiser::itemise(std::span<const char32_t> paragraph, bool rightToLeft, Typeface& typeface,
+                       std::vector<Item>& items)
 {
-    findLevels(paragraph);
+    findLevels(paragraph, rightToLeft);
     findScripts(paragraph);
     findFonts(paragraph, typeface);
     items.clear();

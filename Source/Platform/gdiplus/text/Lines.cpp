@@ -27,7 +27,7 @@ private:
 
     std::span<const Character> m_characters;
     const LineLimits& m_limits;
-    TextLine m_line;      // what is known to stand on the line; spaces behind it are not
+    TextLine m_line;      // what is known to stand on the line; hanging spaces behind it are not
     TextLine m_lastPlace; // the line had it ended at the last allowed place; without a character at first
     double m_place = 0;   // behind the spaces
     bool m_cut = false;
@@ -51,13 +51,14 @@ double LineBuilder::widthAfter(std::size_t cluster) const
 /// In single precision, as the widths that callers get and hand back: a text fits into its own measure.
 bool LineBuilder::fits(double width) const
 {
-    return static_cast<float>(width + 2 * kMarginInEms * m_limits.em) <= m_limits.width;
+    return static_cast<float>(width + m_limits.margins) <= m_limits.width;
 }
 
 TextLine LineBuilder::brokenBefore(std::size_t cluster)
 {
     m_cut = true;
-    if (m_limits.wraps && m_lastPlace.next > m_line.first)
+    const bool atPlaces = m_limits.wraps || m_limits.trimming == TextTrimming::Word;
+    if (atPlaces && m_lastPlace.next > m_line.first)
         return m_lastPlace;
     m_line.next = cluster;
     return m_line;
@@ -76,9 +77,11 @@ TextLine LineBuilder::build()
         const double width = widthAfter(cluster);
         if (!character.is(Character::kSpace)) {
             const bool mayBeEmpty = !m_limits.wraps;
-            const bool mustFit = m_limits.wraps || m_limits.trimming == TextTrimming::Character;
+            const bool mustFit = m_limits.wraps || m_limits.trimming != TextTrimming::None;
             if (mustFit && !fits(width) && (mayBeEmpty || cluster > m_line.first))
                 return brokenBefore(cluster);
+        }
+        if (!character.is(Character::kSpace) || m_limits.countsTrailingSpaces) {
             m_line.end = end;
             m_line.width = width;
         }

@@ -22,10 +22,12 @@ struct TextLine
 /// What a layout rectangle and a format allow.
 struct LineLimits
 {
-    double em;         ///< pixels; margins and tab stops are measured in it
+    double em;         ///< pixels; tab stops are measured in it
+    double margins;    ///< both together, pixels
     float width;       ///< margins included; infinite when there is no limit
-    std::size_t lines; ///< at least 1
+    std::size_t lines; ///< how many there may be
     bool wraps;
+    bool countsTrailingSpaces;
     TextTrimming trimming;
 };
 

@@ -32,10 +32,10 @@ struct Item
 class Itemiser
 {
 public:
-    void itemise(std::span<const char32_t> paragraph, Typeface& typeface, std::vector<Item>& items);
+    void itemise(std::span<const char32_t> paragraph, bool rightToLeft, Typeface& typeface, std::vector<Item>& items);
 
 private:
-    void findLevels(std::span<const char32_t> paragraph);
+    void findLevels(std::span<const char32_t> paragraph, bool rightToLeft);
     void findScripts(std::span<const char32_t> paragraph);
     void findFonts(std::span<const char32_t> paragraph, Typeface& typeface);
 

@@ -41,10 +41,11 @@ char32_t shapedAs(char32_t c)
 
 Shaper::Shaper() : m_buffer(hb_buffer_create()) {}
 
-ShapedText Shaper::shape(const Font& font, Typeface& typeface, FaceStore& faces, std::wstring_view text)
+ShapedText Shaper::shape(const Font& font, Typeface& typeface, FaceStore& faces, std::wstring_view text,
+                         bool rightToLeft)
 {
     ShapedText result;
-    m_job = {&font, &typeface, &faces, &result};
+    m_job = {&font, &typeface, &faces, rightToLeft, &result};
     readCharacters(text, m_codePoints, result.characters);
     for (std::size_t first = 0; first < m_codePoints.size();) {
         const auto from = m_codePoints.begin() + static_cast<std::ptrdiff_t>(first);
@@ -74,7 +75,7 @@ void Shaper::shapeParagraph(std::size_t first, std::size_t end)
     const std::span<const char32_t> paragraph(m_codePoints.data() + first, end - first);
     for (std::size_t i = first; i < end; ++i)
         m_job.result->characters[i].flags |= Character::kContinues; // until a glyph begins there
-    m_itemiser.itemise(paragraph, *m_job.typeface, m_items);
+    m_itemiser.itemise(paragraph, m_job.rightToLeft, *m_job.typeface, m_items);
     for (const Item& item : m_items)
         shapeItem(first, paragraph, item);
     m_job.result->characters[first].flags &= static_cast<std::uint8_t>(~Character::kContinues);

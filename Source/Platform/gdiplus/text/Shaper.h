@@ -14,7 +14,7 @@ public:
     Shaper();
 
     /// Throws std::bad_alloc.
-    ShapedText shape(const Font& font, Typeface& typeface, FaceStore& faces, std::wstring_view text);
+    ShapedText shape(const Font& font, Typeface& typeface, FaceStore& faces, std::wstring_view text, bool rightToLeft);
 
 private:
     void shapeParagraph(std::size_t first, std::size_t end);
@@ -27,6 +27,7 @@ private:
         const Font* font;
         Typeface* typeface;
         FaceStore* faces;
+        bool rightToLeft;
         ShapedText* result;
     };
 

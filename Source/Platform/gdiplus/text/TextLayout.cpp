@@ -12,6 +12,19 @@ float limitOf(float side)
     return side > 0 && std::isfinite(side) ? side : 0;
 }
 
+TextAlignment mirrored(TextAlignment alignment)
+{
+    switch (alignment) {
+    case TextAlignment::Near:
+        return TextAlignment::Far;
+    case TextAlignment::Far:
+        return TextAlignment::Near;
+    case TextAlignment::Center:
+        break;
+    }
+    return TextAlignment::Center;
+}
+
 /// How far a block moves in the room that it has: not at all, by half or by all that is left.
 double shifted(TextAlignment alignment, double free)
 {
@@ -38,7 +51,7 @@ int firstPixel(double edge)
 TextLayout::TextLayout(Engine& engine, const Font& font, std::wstring_view text, const FloatRect& layout,
                        const TextFormat& format)
     : m_engine(engine), m_font(font),
-      m_text(engine.shaped(font, text)), m_layout{layout.x, layout.y, limitOf(layout.width), limitOf(layout.height)},
+      m_text(engine.shaped(font, text, format.rightToLeft)), m_layout{layout.x, layout.y, limitOf(layout.width), limitOf(layout.height)},
       m_format(format)
 {
     breakLines(m_text.characters, limits(), m_engine.lines);
@@ -53,14 +66,32 @@ LineLimits TextLayout::limits() const
 {
     LineLimits limits{};
     limits.em = m_font.em;
+    limits.margins = 2 * margin();
     limits.width = m_layout.width > 0 ? m_layout.width : std::numeric_limits<float>::infinity();
-    limits.lines = std::numeric_limits<std::size_t>::max();
+    limits.lines = mostLines();
     limits.wraps = !m_format.noWrap;
+    limits.countsTrailingSpaces = m_format.countsTrailingSpaces;
     limits.trimming = m_format.trimming;
-    const double beginnings = m_layout.height / m_font.pixels(m_font.metrics.lineSpacing);
-    if (m_layout.height > 0 && !m_format.noClip && beginnings < 1e9)
-        limits.lines = std::max<std::size_t>(1, static_cast<std::size_t>(std::ceil(beginnings)));
     return limits;
+}
+
+/// Those that begin in the rectangle, the first in any case, or those that fit into it whole.
+std::size_t TextLayout::mostLines() const
+{
+    constexpr double kMost = 1e9;
+    constexpr double kHair = 1.0 / 1024; // pixels: heights come back from callers in single precision
+    const double spacing = m_font.pixels(m_font.metrics.lineSpacing);
+    double lines = kMost;
+    if (m_layout.height > 0 && m_format.wholeLines)
+        lines = std::floor((m_layout.height + kHair - cellHeight()) / spacing) + 1;
+    else if (m_layout.height > 0 && !m_format.noClip)
+        lines = std::max(1.0, std::ceil(m_layout.height / spacing));
+    return static_cast<std::size_t>(std::clamp(lines, 0.0, kMost));
+}
+
+TextAlignment TextLayout::alignment() const
+{
+    return m_format.rightToLeft ? mirrored(m_format.alignment) : m_format.alignment;
 }
 
 double TextLayout::blockHeight() const
@@ -76,13 +107,13 @@ TextMeasure TextLayout::measure() const
     double textWidth = 0;
     for (const TextLine& line : lines())
         textWidth = std::max(textWidth, line.width);
-    auto width = static_cast<float>(textWidth + 2 * kMarginInEms * m_font.em);
-    auto height = static_cast<float>(blockHeight() + kExtraHeightInEms * m_font.em);
+    auto width = static_cast<float>(textWidth + 2 * margin());
+    auto height = static_cast<float>(blockHeight() + (m_format.margins ? kExtraHeightInEms * m_font.em : 0));
     if (!m_format.noClip && m_layout.width > 0)
         width = std::min(width, m_layout.width);
     if (!m_format.noClip && m_layout.height > 0)
         height = std::min(height, m_layout.height);
-    const double x = m_layout.x + shifted(m_format.alignment, m_layout.width - width);
+    const double x = m_layout.x + shifted(alignment(), m_layout.width - width);
     const double y = m_layout.y + shifted(m_format.lineAlignment, m_layout.height - height);
 
     const std::size_t fitted = lines().back().next;
@@ -96,9 +127,8 @@ TextMeasure TextLayout::measure() const
 
 double TextLayout::left(const TextLine& line) const
 {
-    const double margin = kMarginInEms * m_font.em;
-    const double free = m_layout.width - line.width - 2 * margin;
-    return m_layout.x + margin + shifted(m_format.alignment, free);
+    const double free = m_layout.width - line.width - 2 * margin();
+    return m_layout.x + margin() + shifted(alignment(), free);
 }
 
 double TextLayout::baseline(std::size_t lineNumber) const
@@ -124,14 +154,14 @@ PixelRect TextLayout::clip() const
     return clip;
 }
 
-TextMeasure measureText(const Font& font, std::wstring_view text, const FloatRect& layout,
-                        const TextFormat& format) noexcept
+std::optional<TextMeasure> measureText(const Font& font, std::wstring_view text, const FloatRect& layout,
+                                       const TextFormat& format) noexcept
 {
     try {
         const EngineLock engine;
         return TextLayout(*engine, font, text, layout, format).measure();
     } catch (const std::exception&) {
-        return {{layout.x, layout.y, 0, 0}, 0, 0};
+        return std::nullopt;
     }
 }
 

@@ -31,6 +31,9 @@ public:
 
 private:
     LineLimits limits() const;
+    std::size_t mostLines() const;
+    TextAlignment alignment() const;
+    double margin() const { return m_format.margins ? kMarginInEms * m_font.em : 0; }
     double cellHeight() const { return m_font.pixels(m_font.metrics.ascent + m_font.metrics.descent); }
     double blockHeight() const;
 

@@ -24,6 +24,22 @@ int nearestPixel(double position)
     return truncated - (raised < truncated ? 1 : 0);
 }
 
+/// The characters that stand for wide ones, both ascending.
+std::vector<std::size_t> charactersAt(std::span<const std::size_t> wide, const std::vector<Character>& characters)
+{
+    std::vector<std::size_t> result;
+    auto next = wide.begin();
+    std::size_t place = 0;
+    for (std::size_t i = 0; i < characters.size() && next != wide.end(); ++i) {
+        place += characters[i].is(Character::kPair) ? 2 : 1;
+        if (*next < place)
+            result.push_back(i);
+        while (next != wide.end() && *next < place)
+            ++next;
+    }
+    return result;
+}
+
 std::ptrdiff_t offset(int row, int column, int width)
 {
     return static_cast<std::ptrdiff_t>(row) * width + column;
@@ -36,7 +52,8 @@ TextPainter::TextPainter(Engine& engine, GlyphSink& sink, const Font& font, cons
     : m_engine(engine), m_sink(sink), m_font(font),
       m_layout(layout), m_style{font.em, drawing.rendering, std::min(drawing.contrast, kHighestContrast), false, false,
                                 false},
-      m_visible(commonPart(commonPart(layout.clip(), drawing.visible), kEverywhere)), m_reach(kReachInEms * font.em)
+      m_visible(commonPart(commonPart(layout.clip(), drawing.visible), kEverywhere)), m_reach(kReachInEms * font.em),
+      m_underlined(charactersAt(drawing.underlined, layout.text().characters))
 {
 }
 
@@ -63,7 +80,7 @@ void TextPainter::paintLine(const TextLine& line, double left, double baseline)
         pen = paintSlice(slice, left, pen, baseline);
     const FontMetrics& metrics = m_font.metrics;
     if (m_font.description.underline)
-        paintStroke(left, left + line.width, baseline, metrics.underlineTop, metrics.underlineThickness);
+        underline(left, left + line.width, baseline);
     if (m_font.description.strikeout)
         paintStroke(left, left + line.width, baseline, metrics.strikeoutTop, metrics.strikeoutThickness);
 }
@@ -126,7 +143,10 @@ double TextPainter::paintSlice(const Engine::Slice& slice, double left, double p
             continue;
         }
         paintGlyph(run, glyph.glyph, pen + glyph.right * scale, baseline - glyph.up * scale);
-        pen += glyph.advance * scale;
+        const double next = pen + glyph.advance * scale;
+        if (std::ranges::binary_search(m_underlined, std::size_t{glyph.character}))
+            underline(pen, next, baseline);
+        pen = next;
     }
     return pen;
 }
@@ -179,6 +199,11 @@ void TextPainter::deliver(const GlyphImage& image, int x, int y)
     const auto* pixels = reinterpret_cast<const std::uint8_t*>(image.colours.data() + first);
     m_sink.colourGlyph(part.left, part.top,
                        {pixels, image.width * static_cast<std::ptrdiff_t>(sizeof(Pixel)), width, height});
+}
+
+void TextPainter::underline(double left, double right, double baseline)
+{
+    paintStroke(left, right, baseline, m_font.metrics.underlineTop, m_font.metrics.underlineThickness);
 }
 
 /// On whole pixels, one thick at least.

@@ -28,6 +28,7 @@ private:
     void orderSlices();
     double paintSlice(const Engine::Slice& slice, double left, double pen, double baseline);
     void paintGlyph(const ShapedRun& run, std::uint32_t glyph, double x, double y);
+    void underline(double left, double right, double baseline);
     void deliver(const GlyphImage& image, int x, int y);
     void paintStroke(double left, double right, double baseline, int top, int thickness);
     bool isNear(double x, double y) const;
@@ -41,6 +42,7 @@ private:
     PixelRect m_visible;
     double m_reach;             // how far from its place a glyph may have pixels
     std::size_t m_firstRun = 0; // of the next line
+    std::vector<std::size_t> m_underlined; // characters of the text, ascending
 };
 
 } // namespace vq::gdiplus

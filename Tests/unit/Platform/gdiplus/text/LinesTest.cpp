@@ -59,7 +59,8 @@ constexpr float kWide = std::numeric_limits<float>::infinity();
 
 LineLimits limit(float textWidth, bool wraps = true)
 {
-    return {kEm, textWidth + kMargins, std::numeric_limits<std::size_t>::max(), wraps, TextTrimming::Character};
+    constexpr std::size_t kAny = std::numeric_limits<std::size_t>::max();
+    return {kEm, kMargins, textWidth + kMargins, kAny, wraps, false, TextTrimming::Character};
 }
 
 TEST(Lines, AnEmptyTextHasNone)

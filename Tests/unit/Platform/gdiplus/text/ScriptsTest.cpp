@@ -32,7 +32,7 @@ bool someFontHas(std::wstring_view text, bool colour = false)
 bool showsBoxes(const Font& font, std::wstring_view text)
 {
     const EngineLock engine;
-    return std::ranges::any_of(engine->shaped(font, text).glyphs, [](const ShapedGlyph& g) { return g.glyph == 0; });
+    return std::ranges::any_of(engine->shaped(font, text, false).glyphs, [](const ShapedGlyph& g) { return g.glyph == 0; });
 }
 
 class Scripts : public testing::TestWithParam<const wchar_t*>

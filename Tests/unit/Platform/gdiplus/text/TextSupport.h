@@ -34,7 +34,7 @@ inline constexpr FloatRect kNoRect{0, 0, 0, 0};
 inline TextMeasure measured(const Font& font, std::wstring_view text, const FloatRect& layout = kNoRect,
                             const TextFormat& format = {})
 {
-    return measureText(font, text, layout, format);
+    return measureText(font, text, layout, format).value();
 }
 
 inline float widthOf(const Font& font, std::wstring_view text)
