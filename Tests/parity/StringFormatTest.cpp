@@ -49,8 +49,8 @@ TEST(StringFormat, KeepsWhatIsSetAndSoDoCopies)
     const StringFormat copy(&format);
     const std::unique_ptr<StringFormat> clone(format.Clone());
     ASSERT_TRUE(clone);
-    for (const StringFormat* same : {static_cast<const StringFormat*>(&format), &copy,
-                                     static_cast<const StringFormat*>(clone.get())}) {
+    for (const StringFormat* same :
+         {static_cast<const StringFormat*>(&format), &copy, static_cast<const StringFormat*>(clone.get())}) {
         EXPECT_EQ(same->GetFormatFlags(), StringFormatFlagsNoClip | StringFormatFlagsLineLimit);
         EXPECT_EQ(same->GetAlignment(), StringAlignmentCenter);
         EXPECT_EQ(same->GetLineAlignment(), StringAlignmentFar);

@@ -21,8 +21,8 @@ protected:
     RectF measure(const WCHAR* text, const RectF& layout = RectF(), const StringFormat* format = nullptr)
     {
         RectF bounds;
-        EXPECT_EQ(m_picture.graphics.MeasureString(text, -1, m_font.get(), layout, format, &bounds, &m_fitted, &m_lines),
-                  Ok);
+        EXPECT_EQ(
+            m_picture.graphics.MeasureString(text, -1, m_font.get(), layout, format, &bounds, &m_fitted, &m_lines), Ok);
         return bounds;
     }
     REAL width(const WCHAR* text) { return measure(text).Width; }

@@ -175,19 +175,19 @@ public:
     Status DrawImage(Image* image, const RectF& destRect, const RectF& sourceRect, Unit srcUnit,
                      const ImageAttributes* imageAttributes = nullptr);
 
-    /// Draws `length` characters, or as many as there are before the first null; -1 stands for all of these. Text begins
-    /// a sixth of an em beside the point or the rectangle's edge, its first cell at the upper edge; a width or height of
-    /// 0 does not limit. Without a format the fresh one counts. How glyphs become pixels is up to the text rendering
-    /// hint and contrast alone: smoothing and pixel offset have no say. `InvalidParameter` under SourceCopy.
+    /// Draws `length` characters, or as many as there are before the first null; -1 stands for all of these. Text
+    /// begins a sixth of an em beside the point or the rectangle's edge, its first cell at the upper edge; a width or
+    /// height of 0 does not limit. Without a format the fresh one counts. How glyphs become pixels is up to the text
+    /// rendering hint and contrast alone: smoothing and pixel offset have no say. `InvalidParameter` under SourceCopy.
     Status DrawString(const WCHAR* string, INT length, const Font* font, const RectF& layoutRect,
                       const StringFormat* stringFormat, const Brush* brush);
     Status DrawString(const WCHAR* string, INT length, const Font* font, const PointF& origin, const Brush* brush);
     Status DrawString(const WCHAR* string, INT length, const Font* font, const PointF& origin,
                       const StringFormat* stringFormat, const Brush* brush);
 
-    /// The room that the text takes up, an eighth of an em below it included; an empty text takes none. Needs no pixels:
-    /// a fresh memory context will do. `codepointsFitted` is given the wide characters on the lines, those of line
-    /// breaks and hanging spaces too.
+    /// The room that the text takes up, an eighth of an em below it included; an empty text takes none. Needs no
+    /// pixels: a fresh memory context will do. `codepointsFitted` is given the wide characters on the lines, those of
+    /// line breaks and hanging spaces too.
     Status MeasureString(const WCHAR* string, INT length, const Font* font, const RectF& layoutRect,
                          const StringFormat* stringFormat, RectF* boundingBox, INT* codepointsFitted = nullptr,
                          INT* linesFilled = nullptr) const;

@@ -53,8 +53,8 @@ std::optional<std::wstring_view> textOf(const WCHAR* string, INT length)
 {
     if (!string || length < -1)
         return std::nullopt;
-    return std::wstring_view(string, length == -1 ? std::wcslen(string)
-                                                  : wcsnlen(string, static_cast<std::size_t>(length)));
+    return std::wstring_view(string,
+                             length == -1 ? std::wcslen(string) : wcsnlen(string, static_cast<std::size_t>(length)));
 }
 
 FloatRect inPixels(const GraphicsState& state, const RectF& rect)
@@ -108,8 +108,7 @@ Status Graphics::DrawString(const WCHAR* string, INT length, const Font* font, c
     });
 }
 
-Status Graphics::DrawString(const WCHAR* string, INT length, const Font* font, const PointF& origin,
-                            const Brush* brush)
+Status Graphics::DrawString(const WCHAR* string, INT length, const Font* font, const PointF& origin, const Brush* brush)
 {
     return DrawString(string, length, font, withoutSize(origin), nullptr, brush);
 }

@@ -53,10 +53,8 @@ const StringFormat* StringFormat::GenericDefault()
 
 const StringFormat* StringFormat::GenericTypographic()
 {
-    static constexpr INT kFlags =
-        StringFormatFlagsNoFitBlackBox | StringFormatFlagsLineLimit | StringFormatFlagsNoClip;
-    static const StringFormat format(
-        Settings{.flags = kFlags, .trimming = StringTrimmingNone, .margins = false}, Ok);
+    static constexpr INT kFlags = StringFormatFlagsNoFitBlackBox | StringFormatFlagsLineLimit | StringFormatFlagsNoClip;
+    static const StringFormat format(Settings{.flags = kFlags, .trimming = StringTrimmingNone, .margins = false}, Ok);
     return &format;
 }
 
@@ -66,8 +64,7 @@ StringFormat::StringFormat(INT formatFlags, LANGID)
 }
 
 StringFormat::StringFormat(const StringFormat* format)
-    : StringFormat(format ? format->m_settings : Settings{},
-                   guarded([&] { return format ? Ok : InvalidParameter; }))
+    : StringFormat(format ? format->m_settings : Settings{}, guarded([&] { return format ? Ok : InvalidParameter; }))
 {
 }
 

@@ -6,9 +6,9 @@
 ///
 /// Any script that an installed font covers is shaped and put into its order; what the font's face lacks is taken from
 /// the fonts that fontconfig names next, and what none has is the face's box. Paragraphs run from left to right unless
-/// the format says otherwise, whatever they hold. Measured widths are the sums of unhinted advances: no kerning and no optional ligatures in
-/// Latin, Greek and Cyrillic, and no tracking. (Microsoft documents an advance factor of 1.03; how it is rounded is not
-/// known, and Wine has none.)
+/// the format says otherwise, whatever they hold. Measured widths are the sums of unhinted advances: no kerning and no
+/// optional ligatures in Latin, Greek and Cyrillic, and no tracking. (Microsoft documents an advance factor of 1.03;
+/// how it is rounded is not known, and Wine has none.)
 ///
 /// Pairs of surrogates are one character; lone ones are U+FFFD; control characters take no room. Tab stops lie four ems
 /// apart.

@@ -14,7 +14,7 @@ enum class TextAlignment : unsigned char { Near, Center, Far };
 enum class TextTrimming : unsigned char {
     None,      ///< it is laid out whole
     Character, ///< it ends before the first character that does not fit
-    Word       ///< it ends before the first word that does not fit, as with Character when that is the first of the line
+    Word ///< it ends before the first word that does not fit, as with Character when that is the first of the line
 };
 
 /// How text lies in its rectangle. The default is GDI+'s: near, wrapped, clipped, trimmed at characters.

@@ -51,7 +51,8 @@ int firstPixel(double edge)
 TextLayout::TextLayout(Engine& engine, const Font& font, std::wstring_view text, const FloatRect& layout,
                        const TextFormat& format)
     : m_engine(engine), m_font(font),
-      m_text(engine.shaped(font, text, format.rightToLeft)), m_layout{layout.x, layout.y, limitOf(layout.width), limitOf(layout.height)},
+      m_text(engine.shaped(font, text, format.rightToLeft)), m_layout{layout.x, layout.y, limitOf(layout.width),
+                                                                      limitOf(layout.height)},
       m_format(format)
 {
     breakLines(m_text.characters, limits(), m_engine.lines);

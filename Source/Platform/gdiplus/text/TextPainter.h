@@ -40,8 +40,8 @@ private:
     const TextLayout& m_layout;
     GlyphStyle m_style;
     PixelRect m_visible;
-    double m_reach;             // how far from its place a glyph may have pixels
-    std::size_t m_firstRun = 0; // of the next line
+    double m_reach;                        // how far from its place a glyph may have pixels
+    std::size_t m_firstRun = 0;            // of the next line
     std::vector<std::size_t> m_underlined; // characters of the text, ascending
 };
 

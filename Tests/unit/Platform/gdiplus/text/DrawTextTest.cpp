@@ -157,6 +157,21 @@ TEST_P(DrawText, UnderlinesAndStrikesOutTheTextOfEachLine)
     EXPECT_LT(recorder.strokes[2].right, underline.right);
 }
 
+TEST_P(DrawText, UnderlinesSingleCharacters)
+{
+    const std::wstring text{L'H', static_cast<wchar_t>(0xD835), static_cast<wchar_t>(0xDD04), L'i', L'H', L'i'};
+    const std::size_t letters[] = {0, 4}; // wide characters; the pair of surrogates is two
+    Recorder recorder;
+    drawText(recorder, *m_font, text, {10, 20, 0, 0}, {}, {GetParam(), 4, kCanvas, letters});
+
+    ASSERT_EQ(recorder.strokes.size(), 2U);
+    const float before = widthOf(*m_font, text.substr(0, 4)) - 2 * kMargin;
+    EXPECT_EQ(recorder.strokes[0].left, 10 + kMargin);
+    EXPECT_NEAR(recorder.strokes[0].right, 10 + kMargin + kEm * 1540 / 2048, 1); // the advance of H
+    EXPECT_NEAR(recorder.strokes[1].left, 10 + kMargin + before, 1);
+    EXPECT_GE(recorder.strokes[1].top, 20 + kEm * 1901 / 2048);
+}
+
 TEST_P(DrawText, SynthesisesStylesThatAFamilyLacks)
 {
     // DejaVu Sans Mono has no italic in the smallest package, and leans when it has.

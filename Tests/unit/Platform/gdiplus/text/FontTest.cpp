@@ -111,6 +111,14 @@ TEST(OpenFont, FindsSomethingForEveryFace)
         EXPECT_NE(openFont(described(face, 11)), nullptr);
 }
 
+TEST(OpenFont, TellsAFaceThatIsHeldFromOneThatStandsIn)
+{
+    EXPECT_TRUE(sans(11)->held);
+    EXPECT_TRUE(openFont(described(u"dejavu SANS", 11))->held);
+    EXPECT_FALSE(openFont(described(u"no such face", 11))->held);
+    EXPECT_FALSE(openFont(described(u"", 11))->held);
+}
+
 TEST(OpenFont, KnowsFacesWhateverTheirCase)
 {
     EXPECT_EQ(openFont(described(u"COURIER NEW", 11))->family, openFont(described(u"Courier New", 11))->family);

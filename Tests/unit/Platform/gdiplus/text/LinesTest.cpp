@@ -139,6 +139,24 @@ TEST(Lines, WithoutTrimmingAreLaidOutWhole)
     EXPECT_EQ(linesOf("aaaa/b", limits), (Texts{"aaaa", "b"}));
 }
 
+TEST(Lines, TrimmedAtWordsEndBeforeTheFirstThatDoesNotFit)
+{
+    LineLimits limits = limit(50, false);
+    limits.trimming = TextTrimming::Word;
+
+    EXPECT_EQ(linesOf("aa bbb cc", limits), (Texts{"aa"}));
+    EXPECT_EQ(linesOf("aaaaaaa", limits), (Texts{"aaaaa"})); // no word fits
+}
+
+TEST(Lines, CountTrailingSpacesWhereTheyAreToldTo)
+{
+    LineLimits limits = limit(kWide);
+    limits.countsTrailingSpaces = true;
+
+    EXPECT_EQ(onlyLine("aa  ", limits).width, 30);
+    EXPECT_EQ(onlyLine("aa  ", limit(kWide)).width, 20);
+}
+
 TEST(Lines, StopAtTheirNumber)
 {
     LineLimits limits = limit(20);

@@ -139,6 +139,41 @@ TEST_F(MeasureText, IsClampedToTheRectangleUnlessNothingIsClipped)
     EXPECT_NEAR(measure(L"MMM", small, format).bounds.height, 3 * kCell + kEm / 8, kNear);
 }
 
+TEST_F(MeasureText, WithoutMarginsIsTheTextAlone)
+{
+    TextFormat format;
+    format.margins = false;
+    const TextMeasure result = measure(L"W", kNoRect, format);
+
+    EXPECT_NEAR(result.bounds.width, kEm * 2025 / 2048, kNear);
+    EXPECT_NEAR(result.bounds.height, kCell, kNear);
+    EXPECT_EQ(measure(L"W", {0, 0, result.bounds.width, result.bounds.height}, format).linesFilled, 1U);
+}
+
+TEST_F(MeasureText, OfWholeLinesLeavesOutWhatTheLowerEdgeWouldCut)
+{
+    TextFormat format;
+    format.wholeLines = true;
+    for (const bool noClip : {false, true}) {
+        format.noClip = noClip;
+        EXPECT_EQ(measure(L"M\nM", {0, 0, 0, 2 * kCell - 1}, format).linesFilled, 1U);
+        EXPECT_EQ(measure(L"M\nM", {0, 0, 0, 2 * kCell}, format).linesFilled, 2U);
+        EXPECT_EQ(measure(L"M\nM", {0, 0, 0, kCell - 1}, format).linesFilled, 0U);
+        EXPECT_EQ(measure(L"M\nM", kNoRect, format).linesFilled, 2U);
+    }
+}
+
+TEST_F(MeasureText, FromTheRightHasItsNearSideThere)
+{
+    TextFormat format;
+    format.rightToLeft = true;
+    EXPECT_NEAR(measure(L"M", {100, 0, 300, 0}, format).bounds.x, 400 - width(L"M"), kNear);
+    format.alignment = TextAlignment::Far;
+    EXPECT_NEAR(measure(L"M", {100, 0, 300, 0}, format).bounds.x, 100, kNear);
+    format.alignment = TextAlignment::Center;
+    EXPECT_NEAR(measure(L"M", {100, 0, 300, 0}, format).bounds.x, 250 - width(L"M") / 2, kNear);
+}
+
 TEST_F(MeasureText, FillsTheLinesThatBeginInsideTheRectangle)
 {
     const TextMeasure result = measure(L"M\nM\nM", {0, 0, 0, kCell + 1});

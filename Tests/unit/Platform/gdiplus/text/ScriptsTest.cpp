@@ -32,7 +32,8 @@ bool someFontHas(std::wstring_view text, bool colour = false)
 bool showsBoxes(const Font& font, std::wstring_view text)
 {
     const EngineLock engine;
-    return std::ranges::any_of(engine->shaped(font, text, false).glyphs, [](const ShapedGlyph& g) { return g.glyph == 0; });
+    return std::ranges::any_of(engine->shaped(font, text, false).glyphs,
+                               [](const ShapedGlyph& g) { return g.glyph == 0; });
 }
 
 class Scripts : public testing::TestWithParam<const wchar_t*>
@@ -137,6 +138,32 @@ TEST(MixedDirections, RunFromLeftToRightAsAWhole)
     ASSERT_EQ(recorder.shapes.size(), 3U);
     EXPECT_TRUE(recorder.shapes[0].looksLike(drawn(*font, L"A").shapes[0]));
     EXPECT_TRUE(recorder.shapes[2].looksLike(drawn(*font, L"B").shapes[0]));
+}
+
+TEST(MixedDirections, RunFromRightToLeftAsAWholeWhereTheFormatSaysSo)
+{
+    // Logical "A", alef, "B", full stop: each stands left of the one before it.
+    const auto font = sans(20);
+    TextFormat format;
+    format.rightToLeft = true;
+    const Recorder recorder = drawn(*font,
+                                    L"A\x05D0"
+                                    L"B.",
+                                    {0, 0, 300, 0}, format);
+
+    ASSERT_EQ(recorder.shapes.size(), 4U);
+    EXPECT_TRUE(recorder.shapes[0].looksLike(drawn(*font, L".").shapes[0]));
+    EXPECT_TRUE(recorder.shapes[1].looksLike(drawn(*font, L"B").shapes[0]));
+    EXPECT_TRUE(recorder.shapes[2].looksLike(drawn(*font, L"\x05D0").shapes[0]));
+    EXPECT_TRUE(recorder.shapes[3].looksLike(drawn(*font, L"A").shapes[0]));
+    EXPECT_EQ(drawn(*font, L"A\x05D0"
+                           L"B.")
+                  .shapes.size(),
+              4U); // the same text the other way round is another one
+    EXPECT_TRUE(drawn(*font, L"A\x05D0"
+                             L"B.")
+                    .shapes[0]
+                    .looksLike(drawn(*font, L"A").shapes[0]));
 }
 
 TEST(MixedDirections, KeepNumbersInTheirOrder)
