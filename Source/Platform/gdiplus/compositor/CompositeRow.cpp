@@ -96,9 +96,21 @@ constexpr std::uint32_t nearest(float value)
     return static_cast<std::uint32_t>(static_cast<std::int32_t>(value + 0.5F));
 }
 
-/// `sourceOver` over every destination. Numerators and denominators are whole numbers below 2^24, exact in single
-/// precision. A quotient of them differs from a half by 0 or by at least 1 / (2 * 65025), which is more than 2^-17, the
-/// most that it is rounded by: so it never crosses or meets a half, and the nearest integer is that of the exact value.
+/// `mixed` of weights that are products of two bytes or sums of two such, up to 65025 together. Numerators and
+/// denominators are whole numbers below 2^24, exact in single precision. A quotient of them differs from a half by 0 or
+/// by at least 1 / (2 * 65025), which is more than 2^-17, the most that it is rounded by: so it never crosses or meets
+/// a half, and the nearest integer is that of the exact value.
+inline Pixel mixedInFloats(Pixel first, float firstWeight, Pixel second, float secondWeight)
+{
+    const float whole = firstWeight + secondWeight;
+    const auto channel = [=](std::uint32_t a, std::uint32_t b) {
+        return nearest((inFloat(a) * firstWeight + inFloat(b) * secondWeight) / whole);
+    };
+    return packed(nearest(whole * (1 / 255.0F)), channel(redOf(first), redOf(second)),
+                  channel(greenOf(first), greenOf(second)), channel(blueOf(first), blueOf(second)));
+}
+
+/// `sourceOver` over every destination.
 inline void overAny(Pixel* destination, const Pixel* source, std::size_t count)
 {
     for (std::size_t i = 0; i < count; ++i) {
@@ -107,13 +119,24 @@ inline void overAny(Pixel* destination, const Pixel* source, std::size_t count)
         const Pixel untouched = alphaOf(s) == 0 ? ~Pixel{0} : 0; // such a source counts as alpha 1: no division by 0
         const float sourceWeight = inFloat(alphaOf(s) - untouched) * 255.0F;
         const float destinationWeight = inFloat(alphaOf(d)) * inFloat(255 - alphaOf(s));
-        const float whole = sourceWeight + destinationWeight;
-        const auto channel = [=](std::uint32_t dc, std::uint32_t sc) {
-            return nearest((inFloat(dc) * destinationWeight + inFloat(sc) * sourceWeight) / whole);
-        };
-        const Pixel result = packed(nearest(whole * (1 / 255.0F)), channel(redOf(d), redOf(s)),
-                                    channel(greenOf(d), greenOf(s)), channel(blueOf(d), blueOf(s)));
+        const Pixel result = mixedInFloats(d, destinationWeight, s, sourceWeight);
         destination[i] = (d & untouched) | (result & ~untouched);
+    }
+}
+
+/// `sourceCopy` under coverage of any pixels.
+inline void copyAny(Pixel* destination, const Pixel* source, const Channel* coverage, std::size_t count)
+{
+    for (std::size_t i = 0; i < count; ++i) {
+        const Pixel s = source[i];
+        const Pixel d = destination[i];
+        const std::uint32_t covered = coverage[i];
+        const std::uint32_t kept = alphaOf(d) * (255 - covered);
+        const std::uint32_t added = alphaOf(s) * covered;
+        const Pixel nothing = kept + added == 0 ? 1 : 0; // a weight instead of a division by 0; its alpha is 0
+        const Pixel result = mixedInFloats(d, inFloat(kept + nothing), s, inFloat(added));
+        const Pixel visible = alphaOf(result) == 0 ? 0 : result;
+        destination[i] = covered == 0 ? d : visible;
     }
 }
 
@@ -208,12 +231,58 @@ void compositeCovered(std::span<Pixel> destination, SourceAt sourceAt, std::span
     });
 }
 
-/// `SourceCopy` under coverage: partly covered pixels are the edges of shapes, few beside the rest.
+void copyCoveredBlock(Pixel* destination, const Pixel* source, const Channel* coverage, std::size_t count)
+{
+    Channel any = 0;
+    Channel all = 255;
+    for (std::size_t i = 0; i < count; ++i) {
+        any |= coverage[i];
+        all &= coverage[i];
+    }
+    if (any == 0)
+        return;
+    if (all == 255)
+        return Copy::block(destination, source, count);
+    if (!isOpaque(source, count) || !isOpaque(destination, count))
+        return copyAny(destination, source, coverage, count);
+    Block effective; // between opaque pixels coverage does what alpha does
+    for (std::size_t i = 0; i < count; ++i)
+        effective[i] = withCoverage(source[i], coverage[i]);
+    overOpaque(destination, effective.data(), count);
+}
+
+/// `SourceCopy` under a row of coverage.
 template <typename SourceAt>
 void copyCovered(std::span<Pixel> destination, SourceAt sourceAt, std::span<const Channel> coverage)
 {
-    for (std::size_t i = 0; i < destination.size(); ++i)
-        destination[i] = sourceCopy(destination[i], sourceAt(i), coverage[i]);
+    if (destination.size() < kShortRow) {
+        for (std::size_t i = 0; i < destination.size(); ++i)
+            destination[i] = sourceCopy(destination[i], sourceAt(i), coverage[i]);
+        return;
+    }
+    forEachBlock(destination.size(), [=](std::size_t first, std::size_t count) {
+        Block source;
+        for (std::size_t i = 0; i < count; ++i)
+            source[i] = sourceAt(first + i);
+        copyCoveredBlock(destination.data() + first, source.data(), coverage.data() + first, count);
+    });
+}
+
+/// `SourceCopy` of one colour under one coverage.
+void copyRun(std::span<Pixel> destination, Pixel colour, Channel coverage)
+{
+    if (destination.size() < kShortRow) {
+        for (Pixel& pixel : destination)
+            pixel = sourceCopy(pixel, colour, coverage);
+        return;
+    }
+    Block source;
+    std::array<Channel, kBlock> same;
+    std::fill_n(source.begin(), std::min(destination.size(), kBlock), colour);
+    std::fill_n(same.begin(), std::min(destination.size(), kBlock), coverage);
+    forEachBlock(destination.size(), [&](std::size_t first, std::size_t count) {
+        copyCoveredBlock(destination.data() + first, source.data(), same.data(), count);
+    });
 }
 
 template <typename SourceAt>
@@ -329,8 +398,7 @@ void compositeColour(std::span<Pixel> destination, Pixel colour, Channel coverag
 {
     if (blend != Blend::SourceCopy || coverage == 255)
         return compositeColour(destination, coverage == 255 ? colour : withCoverage(colour, coverage), blend);
-    for (Pixel& pixel : destination)
-        pixel = sourceCopy(pixel, colour, coverage);
+    copyRun(destination, colour, coverage);
 }
 
 } // namespace vq::gdiplus

@@ -51,6 +51,26 @@ void expectEqualsOnePixelAtATime(Row row, OnePixel pixel)
             }
 }
 
+/// `SourceCopy` under coverage, in fractions: alpha N / 255 of N = s * C + d * (255 - C), colours weighted by its
+/// terms.
+Pixel exactCopy(Pixel destination, Pixel source, std::uint32_t coverage)
+{
+    if (coverage == 0)
+        return destination;
+    const std::uint32_t added = (source >> 24) * coverage;
+    const std::uint32_t kept = (destination >> 24) * (255 - coverage);
+    const std::uint32_t whole = added + kept;
+    const std::uint32_t alpha = (2 * whole + 255) / 510;
+    if (alpha == 0)
+        return 0;
+    Pixel result = alpha << 24;
+    for (int shift : {0, 8, 16}) {
+        const std::uint32_t mixed = (source >> shift & 0xFF) * added + (destination >> shift & 0xFF) * kept;
+        result |= (2 * mixed + whole) / (2 * whole) << shift;
+    }
+    return result;
+}
+
 } // namespace
 
 TEST(CompositeRow, EqualsOnePixelAtATimeAndWritesNothingBesideTheRow)
@@ -140,9 +160,12 @@ TEST(CompositeColour, IsExactForEverySourceValueDestinationValueAndEffectiveAlph
             const Coverage coverage(256, static_cast<Channel>(alpha));
             test::Pixels run = destinations;
             test::Pixels covered = destinations;
+            test::Pixels copied = destinations;
             compositeColour(run, packed(alpha, source, source, source), Blend::SourceOver);
             compositeColour(covered, packed(255, source, source, source), coverage, Blend::SourceOver);
+            compositeColour(copied, packed(255, source, source, source), coverage, Blend::SourceCopy);
             ASSERT_EQ(run, covered);
+            ASSERT_EQ(run, copied); // between opaque pixels coverage does what alpha does
             for (std::uint32_t value = 0; value < 256; ++value)
                 ASSERT_EQ(run[value], packed(255, exact(value), exact(255 - value), exact(value ^ 0x55)))
                     << source << " of alpha " << alpha << " over " << value;
@@ -168,6 +191,31 @@ TEST(CompositeRow, IsExactForEveryPairOfAlphas)
             compositeRow(row, source, Blend::SourceOver);
             ASSERT_EQ(row, expected) << "alpha " << alpha;
         }
+}
+
+/// 256 alphas of the source by 256 of the destination by 256 coverages, colours at random.
+TEST(CompositeRow, CopyUnderCoverageIsExactForEveryPairOfAlphas)
+{
+    std::mt19937 generator(21);
+    test::Pixels colours(512);
+    for (Pixel& colour : colours)
+        colour = static_cast<Pixel>(generator()) & 0xFFFFFF;
+    test::Pixels source(256);
+    test::Pixels row(256);
+    for (std::uint32_t covered = 0; covered < 256; ++covered) {
+        const Coverage coverage(256, static_cast<Channel>(covered));
+        for (std::uint32_t alpha = 0; alpha < 256; ++alpha) {
+            for (std::uint32_t i = 0; i < 256; ++i) {
+                source[i] = alpha << 24 | colours[(i + alpha) % colours.size()];
+                row[i] = i << 24 | colours[(i * 3 + covered) % colours.size()];
+            }
+            test::Pixels expected = row;
+            for (std::size_t i = 0; i < row.size(); ++i)
+                expected[i] = exactCopy(row[i], source[i], covered);
+            compositeRow(row, source, coverage, Blend::SourceCopy);
+            ASSERT_EQ(row, expected) << "alpha " << alpha << " under " << covered;
+        }
+    }
 }
 
 } // namespace vq::gdiplus
