@@ -192,6 +192,7 @@ TEST(PathFlatten, IsFinerForASmallerTolerance)
     byDefault.Flatten();
     quarter->Flatten(nullptr, 0.25f);
     EXPECT_EQ(segmentsOf(byDefault), segmentsOf(*quarter));
+    EXPECT_EQ(segmentsOf(byDefault), 16);
 }
 
 TEST(PathFlatten, LeavesStraightFiguresAlone)

@@ -46,6 +46,23 @@ TEST(FillPath, TakesAnOpenFigureAsClosed)
     expectTriangle(picture);
 }
 
+TEST(FillPath, AsksForTheCentresThatThePixelOffsetGives)
+{
+    if (differsHere("fractional rectangles"))
+        return;
+    const SolidBrush brush{Color(kRed)};
+    const PointF corners[] = {{2.25f, 3.75f}, {6.25f, 3.75f}, {6.25f, 8.75f}, {2.25f, 8.75f}};
+    TestPicture whole(12, 12);
+    whole.graphics.FillPolygon(&brush, corners, 4);
+    EXPECT_EQ(whole.find(kRed), (Found{3, 4, 6, 8, 20}));
+    for (const auto mode : {PixelOffsetModeHalf, PixelOffsetModeHighQuality}) {
+        TestPicture half(12, 12);
+        half.graphics.SetPixelOffsetMode(mode);
+        half.graphics.FillPolygon(&brush, corners, 4);
+        EXPECT_EQ(half.find(kRed), (Found{2, 4, 5, 8, 20})) << mode;
+    }
+}
+
 TEST(FillPath, OfTouchingShapesLightsEveryPixelOnce)
 {
     const SolidBrush brush{Color(0x80FF0000)};
@@ -104,14 +121,16 @@ TEST(FillPath, FiguresOfOnePathCutHolesIntoEachOther)
     EXPECT_EQ(columnsDrawn(picture, 4), (Places{1, 2, 3, 8, 9, 10}));
 }
 
-TEST(FillPolygon, OfFewerThanThreePointsDrawsNothing)
+TEST(Polygons, OfFewerThanThreePointsAreInvalid)
 {
+    const Pen pen{Color(kRed)};
     const SolidBrush brush{Color(kRed)};
     const Point points[] = {{1, 1}, {9, 9}};
     TestPicture picture(12, 12);
-    picture.graphics.FillPolygon(&brush, points, 2);
-    picture.graphics.FillPolygon(&brush, points, 1);
-    picture.graphics.FillPolygon(&brush, points, 0);
+    for (const INT count : {2, 1, 0}) {
+        EXPECT_EQ(picture.graphics.FillPolygon(&brush, points, count), InvalidParameter) << count;
+        EXPECT_EQ(picture.graphics.DrawPolygon(&pen, points, count), InvalidParameter) << count;
+    }
     EXPECT_EQ(pixelsDrawn(picture), 0);
 }
 

@@ -61,6 +61,15 @@ TEST(Path, ArraysOfLines)
     EXPECT_EQ(path.GetPointCount(), 5);
 }
 
+TEST(Path, ArrayOfOnePointStartsAFigure)
+{
+    const Point point[] = {{1, 2}};
+    GraphicsPath path;
+    EXPECT_EQ(path.AddLines(point, 1), Ok);
+    path.AddLine(3, 4, 5, 6);
+    expectPoints(path, {{1, 2, kStart}, {3, 4, kLine}, {5, 6, kLine}});
+}
+
 TEST(Path, FiguresAreStartedAndClosed)
 {
     GraphicsPath path;
@@ -119,12 +128,13 @@ TEST(Path, RectangleIsAClosedFigureOfFourPoints)
                         {1.5f, 6.5f, kLine | kClose}});
 }
 
-TEST(Path, EmptyRectangleAddsNothing)
+TEST(Path, NegativeOrEmptyRectangleAddsNothing)
 {
     GraphicsPath path;
     EXPECT_EQ(path.AddRectangle(Rect(5, 6, 0, 20)), Ok);
     EXPECT_EQ(path.AddRectangle(Rect(5, 6, 10, 0)), Ok);
     EXPECT_EQ(path.AddRectangle(RectF(5, 6, 0, 0)), Ok);
+    EXPECT_EQ(path.AddRectangle(RectF(5, 6, -3, 4)), Ok);
     EXPECT_EQ(path.GetPointCount(), 0);
 }
 
