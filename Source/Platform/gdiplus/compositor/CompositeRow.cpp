@@ -323,33 +323,15 @@ void overRun(std::span<Pixel> destination, Pixel colour)
 /// Rows up to this length are most often those of glyphs.
 constexpr std::size_t kGlyphRow = 32;
 
-/// `mixedLane` for all channels over an opaque pixel, two lanes of 16 bits in each number.
-inline Pixel overOpaquePixel(Pixel destination, Pixel colour, std::uint32_t alpha)
-{
-    constexpr Pixel kLanes = 0x00FF00FF;
-    const auto mix = [alpha](Pixel d, Pixel s) {
-        const Pixel raised = s * alpha + d * (255 - alpha) + 0x00800080;
-        return (raised + (raised >> 8 & kLanes)) >> 8 & kLanes;
-    };
-    const Pixel redAndBlue = mix(destination & kLanes, colour & kLanes);
-    const Pixel green = mix(destination >> 8 & 0xFF, colour >> 8 & 0xFF);
-    return kAlphaBits | green << 8 | redAndBlue;
-}
-
-/// Most pixels around a glyph's strokes are not covered, most of those in them are covered in full.
+/// Most pixels around a glyph's strokes are not covered, most of those in them in full.
 void overGlyphRow(std::span<Pixel> destination, Pixel colour, std::span<const Channel> coverage)
 {
     for (std::size_t i = 0; i < destination.size(); ++i) {
-        const std::uint32_t alpha = effectiveAlpha(alphaOf(colour), coverage[i]);
-        Pixel& pixel = destination[i];
-        if (alpha == 0)
-            continue;
-        if (alpha == 255)
-            pixel = colour;
-        else if (alphaOf(pixel) == 255)
-            pixel = overOpaquePixel(pixel, colour, alpha);
-        else
-            pixel = overPixel<StoredLight>(pixel, (colour & ~kAlphaBits) | alpha << 24);
+        const Pixel source = withCoverage(colour, coverage[i]);
+        if (alphaOf(source) == 255)
+            destination[i] = source;
+        else if (alphaOf(source) != 0)
+            destination[i] = overPixel<StoredLight>(destination[i], source);
     }
 }
 

@@ -190,6 +190,37 @@ TEST_F(Text, PicturesOfEmojiAreAsTransparentAsTheBrush)
     EXPECT_EQ(highestAlpha(0x00FF0000), 0u);
 }
 
+TEST_F(Text, IsFilledByAnyBrush)
+{
+    const auto font = sansFont(-40);
+    TestPicture picture(200, 60);
+    const LinearGradientBrush gradient(PointF(0, 0), PointF(200, 0), Color(0xFFFF0000), Color(0xFF0000FF));
+    EXPECT_EQ(picture.graphics.DrawString(L"\x2588\x2588\x2588", -1, font.get(), PointF(), &gradient), Ok);
+    TestPicture filled(200, 60);
+    filled.graphics.FillRectangle(&gradient, 0, 0, 200, 60);
+    for (const int x : {12, 40, 70})
+        EXPECT_EQ(picture.at(x, 24), filled.at(x, 24)) << "inside a block";
+    EXPECT_EQ(picture.at(190, 24), Argb{0}) << "behind the text";
+
+    const HatchBrush hatch(HatchStyleVertical, Color(0xFF00FF00), Color(0x00000000));
+    TestPicture hatched(200, 60);
+    EXPECT_EQ(hatched.graphics.DrawString(L"\x2588", -1, font.get(), PointF(), &hatch), Ok);
+    EXPECT_EQ(hatched.at(16, 24), Argb{0xFF00FF00});
+    EXPECT_EQ(hatched.at(17, 24), Argb{0});
+}
+
+TEST_F(Text, PicturesOfEmojiHaveTheBrushsAlphaPixelByPixel)
+{
+    TestPicture picture(80, 80);
+    const HatchBrush hatch(HatchStyleVertical, Color(0xFF00FF00), Color(0x00000000));
+    EXPECT_EQ(picture.graphics.DrawString(L"\x1F600", -1, sansFont(-40).get(), PointF(), &hatch), Ok);
+    const auto found = picture.findOther(0);
+    EXPECT_GT(found.count, 0);
+    for (int y = found.top; y <= found.bottom; ++y)
+        for (int x = found.left; x <= found.right; ++x)
+            EXPECT_TRUE(picture.at(x, y) == Argb{0} || x % 8 == 0) << x << ", " << y;
+}
+
 TEST_F(Text, IsUnderlinedAndStruckOutByItsFont)
 {
     const Font plain(kSans, 24, FontStyleRegular, UnitPixel);
