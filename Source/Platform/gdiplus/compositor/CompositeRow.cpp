@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/gdiplus/compositor/CompositeRow.h"
 
-#include "Platform/gdiplus/compositor/CompositePixel.h"
+#include "Platform/gdiplus/compositor/ColourRun.h"
 
 #include <algorithm>
 #include <array>
@@ -67,21 +67,6 @@ inline void overOpaque(Pixel* destination, const Pixel* source, std::size_t coun
         const unsigned low = mixedLane(d[i] & 0xFFU, s[i] & 0xFFU, a[i]);
         const unsigned high = mixedLane(d[i] >> 8U, s[i] >> 8U, a[i]);
         d[i] = static_cast<Lane>(low | high << 8);
-    }
-}
-
-/// As `overOpaque`, with one colour. Whoever calls adds kAlphaBits to the colour.
-inline void colourOverOpaque(Pixel* destination, Pixel colour, unsigned alpha, std::size_t count)
-{
-    Lane* d = reinterpret_cast<Lane*>(destination);
-    const auto mix = [=](unsigned lane, unsigned source) {
-        const unsigned low = mixedLane(lane & 0xFFU, source & 0xFFU, alpha);
-        const unsigned high = mixedLane(lane >> 8U, source >> 8U, alpha);
-        return static_cast<Lane>(low | high << 8);
-    };
-    for (std::size_t i = 0; i < count; ++i) {
-        d[2 * i] = mix(d[2 * i], colour & 0xFFFFU);
-        d[2 * i + 1] = mix(d[2 * i + 1], colour >> 16U);
     }
 }
 
@@ -307,17 +292,24 @@ void compositeRunOnePixelAtATime(std::span<Pixel> destination, Pixel colour)
 
 void overRun(std::span<Pixel> destination, Pixel colour)
 {
-    if (destination.size() < kShortRow)
-        return compositeRunOnePixelAtATime<Over>(destination, colour);
-    Block source;
-    std::fill_n(source.begin(), std::min(destination.size(), kBlock), colour);
-    forEachBlock(destination.size(), [&](std::size_t first, std::size_t count) {
-        Pixel* target = destination.data() + first;
-        if (isOpaque(target, count))
-            colourOverOpaque(target, colour | kAlphaBits, alphaOf(colour), count);
-        else
-            overAny(target, source.data(), count);
-    });
+    const ColourRun run(colour);
+    std::array<Pixel, ColourRun::kPixels> source;
+    source.fill(colour);
+    Pixel* pixel = destination.data();
+    std::size_t left = destination.size();
+    for (; left >= ColourRun::kPixels; left -= ColourRun::kPixels, pixel += ColourRun::kPixels) {
+        switch (ColourRun::look(pixel)) {
+        case ColourRun::Below::Opaque:
+            run.overOpaque(pixel);
+            break;
+        case ColourRun::Below::Transparent:
+            std::ranges::copy(source, pixel);
+            break;
+        case ColourRun::Below::Mixed:
+            overAny(pixel, source.data(), ColourRun::kPixels);
+        }
+    }
+    compositeRunOnePixelAtATime<Over>({pixel, left}, colour);
 }
 
 /// Rows up to this length are most often those of glyphs.

@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+/// @file
+/// One colour over eight pixels at a time. Written with vectors because compilers, given the loop over two channels of
+/// 16 bits, take half as long again (GCC 12, SSE2: 0.70 ns a pixel against 0.50).
+
+#include "Platform/gdiplus/compositor/CompositePixel.h"
+
+#include <array>
+#include <bit>
+#include <cstring>
+
+namespace vq::gdiplus {
+
+class ColourRun
+{
+public:
+    static constexpr std::size_t kPixels = 8;
+
+    /// A colour of alpha 1 .. 254.
+    explicit ColourRun(Pixel colour)
+    {
+        const std::uint32_t alpha = alphaOf(colour);
+        const auto weighted = [alpha](std::uint32_t channel) {
+            return static_cast<std::uint16_t>(channel * alpha + 128);
+        };
+        for (int i = 0; i < kLanes; ++i) {
+            const bool first = i % 2 == 0; // blue and green, else red and alpha
+            m_kept[i] = static_cast<std::uint16_t>(255 - alpha);
+            m_low[i] = weighted(first ? blueOf(colour) : redOf(colour));
+            m_high[i] = weighted(first ? greenOf(colour) : 255);
+        }
+    }
+
+    enum class Below { Opaque, Transparent, Mixed };
+
+    static Below look(const Pixel* pixels)
+    {
+        constexpr std::uint64_t kAlphas = 0xFF000000'FF000000;
+        const Words first = load(pixels);
+        const Words second = load(pixels + kPixels / 2);
+        const std::uint64_t all = first[0] & first[1] & second[0] & second[1];
+        if ((all & kAlphas) == kAlphas)
+            return Below::Opaque;
+        const std::uint64_t any = first[0] | first[1] | second[0] | second[1];
+        return (any & kAlphas) == 0 ? Below::Transparent : Below::Mixed;
+    }
+
+    /// `sourceOver` over kPixels opaque pixels.
+    void overOpaque(Pixel* pixels) const
+    {
+        mix(pixels);
+        mix(pixels + kPixels / 2);
+    }
+
+private:
+    using Lanes [[gnu::vector_size(16)]] = std::uint16_t;
+    using Words = std::array<std::uint64_t, 2>;
+    static constexpr int kLanes = 8;
+
+    static Words load(const Pixel* pixels)
+    {
+        Words words;
+        std::memcpy(&words, pixels, sizeof words);
+        return words;
+    }
+
+    /// `dividedBy255` of both channels of each lane.
+    void mix(Pixel* pixels) const
+    {
+        Lanes lanes;
+        std::memcpy(&lanes, pixels, sizeof lanes);
+        const Lanes low = (lanes & 0xFF) * m_kept + m_low;
+        const Lanes high = (lanes >> 8) * m_kept + m_high;
+        lanes = ((low + (low >> 8)) >> 8) | ((high + (high >> 8)) & 0xFF00);
+        std::memcpy(pixels, &lanes, sizeof lanes);
+    }
+
+    Lanes m_kept;
+    Lanes m_low;
+    Lanes m_high;
+};
+
+} // namespace vq::gdiplus
