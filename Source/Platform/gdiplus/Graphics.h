@@ -147,6 +147,7 @@ public:
     Status DrawEllipse(const Pen* pen, REAL x, REAL y, REAL width, REAL height);
     Status DrawEllipse(const Pen* pen, const Rect& rect);
     Status DrawEllipse(const Pen* pen, INT x, INT y, INT width, INT height);
+    /// At least three points.
     Status DrawPolygon(const Pen* pen, const PointF* points, INT count);
     Status DrawPolygon(const Pen* pen, const Point* points, INT count);
     Status DrawPath(const Pen* pen, const GraphicsPath* path);

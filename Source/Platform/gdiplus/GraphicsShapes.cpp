@@ -35,27 +35,28 @@ ToPixels toPixelsOf(const GraphicsState& state)
     return {across, down, state.settings.hasHalfPixelOffset() ? -0.5 : 0};
 }
 
-void flatten(const GraphicsState& state, const PathPoints& path, Polylines& shape)
+/// `reach`: half the width, in pixels, of the pen that will go along the shape.
+void flatten(const GraphicsState& state, const PathPoints& path, double reach, Polylines& shape)
 {
     const bool smooth = state.settings.isSmooth();
-    path.flatten(toPixelsOf(state), smooth ? CurvePrecision::fine() : CurvePrecision::asGdiplus(), shape);
+    path.flatten(toPixelsOf(state), smooth ? CurvePrecision::fine(reach) : CurvePrecision::asGdiplus(), shape);
 }
 
 /// A shape made of a path that `add(path)` fills.
 template <typename Add>
 auto pathShape(Add add)
 {
-    return [add](GraphicsState& state, Polylines& shape) {
+    return [add](GraphicsState& state, double reach, Polylines& shape) {
         PathPoints& path = state.memory().path;
         path.clear();
         add(path);
-        flatten(state, path, shape);
+        flatten(state, path, reach, shape);
     };
 }
 
 } // namespace
 
-/// `makeShape(state, shape)` fills a shape, in pixels.
+/// `makeShape(state, reach, shape)` fills a shape, in pixels, for a pen that reaches so far from its line.
 template <typename MakeShape>
 Status Graphics::strokeShape(const Pen* pen, MakeShape makeShape)
 {
@@ -65,16 +66,17 @@ Status Graphics::strokeShape(const Pen* pen, MakeShape makeShape)
             return InvalidParameter;
         vq::gdiplus::ShapeRenderer& renderer = state.memory().shapes;
         Polylines& shape = renderer.newShape();
-        makeShape(state, shape);
+        const double scale = state.pageFactors().x;
+        const vq::gdiplus::StrokeStyle style = pen->style(scale);
+        makeShape(state, style.width / 2, shape);
         if (!shape.finite())
             return ValueOverflow;
-        const double scale = state.pageFactors().x;
         return state.draw([&](const Canvas& canvas) {
             const Painter painter(canvas, *shader);
             if (pen->drawsInside(scale))
-                renderer.strokeInside(painter, shape, pen->style(scale));
+                renderer.strokeInside(painter, shape, style);
             else
-                renderer.stroke(painter, shape, pen->style(scale));
+                renderer.stroke(painter, shape, style);
             return Ok;
         });
     });
@@ -89,7 +91,7 @@ Status Graphics::fillShape(const Brush* brush, FillRule rule, MakeShape makeShap
             return InvalidParameter;
         vq::gdiplus::ShapeRenderer& renderer = state.memory().shapes;
         Polylines& shape = renderer.newShape();
-        makeShape(state, shape);
+        makeShape(state, 0, shape);
         if (!shape.finite())
             return ValueOverflow;
         return state.draw([&](const Canvas& canvas) {
@@ -128,7 +130,7 @@ Status Graphics::fillPoints(const Brush* brush, const PointType* points, INT cou
 
 Status Graphics::DrawLine(const Pen* pen, const PointF& pt1, const PointF& pt2)
 {
-    return strokeShape(pen, [&](const GraphicsState& state, Polylines& shape) {
+    return strokeShape(pen, [&](const GraphicsState& state, double, Polylines& shape) {
         const ToPixels toPixels = toPixelsOf(state);
         shape.add(toPixels(pt1));
         shape.add(toPixels(pt2));
@@ -209,20 +211,21 @@ Status Graphics::DrawEllipse(const Pen* pen, const RectF& rect)
 
 Status Graphics::DrawPolygon(const Pen* pen, const PointF* points, INT count)
 {
-    return drawPoints(pen, points, count, 2, PathPointTypeLine, true);
+    return drawPoints(pen, points, count, 3, PathPointTypeLine, true);
 }
 
 Status Graphics::DrawPolygon(const Pen* pen, const Point* points, INT count)
 {
-    return drawPoints(pen, points, count, 2, PathPointTypeLine, true);
+    return drawPoints(pen, points, count, 3, PathPointTypeLine, true);
 }
 
 Status Graphics::DrawPath(const Pen* pen, const GraphicsPath* path)
 {
     if (!path || !path->m_points)
         return withState([](const GraphicsState&) { return InvalidParameter; });
-    return strokeShape(pen,
-                       [&](const GraphicsState& state, Polylines& shape) { flatten(state, *path->m_points, shape); });
+    return strokeShape(pen, [&](const GraphicsState& state, double reach, Polylines& shape) {
+        flatten(state, *path->m_points, reach, shape);
+    });
 }
 
 Status Graphics::FillEllipse(const Brush* brush, const RectF& rect)
@@ -262,8 +265,9 @@ Status Graphics::FillPath(const Brush* brush, const GraphicsPath* path)
 {
     if (!path || !path->m_points)
         return withState([](const GraphicsState&) { return InvalidParameter; });
-    return fillShape(brush, ruleOf(path->m_fillMode),
-                     [&](const GraphicsState& state, Polylines& shape) { flatten(state, *path->m_points, shape); });
+    return fillShape(brush, ruleOf(path->m_fillMode), [&](const GraphicsState& state, double reach, Polylines& shape) {
+        flatten(state, *path->m_points, reach, shape);
+    });
 }
 
 Status Graphics::FillRectangles(const Brush* brush, const RectF* rects, INT count)

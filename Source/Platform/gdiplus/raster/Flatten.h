@@ -12,17 +12,19 @@ struct CurvePrecision
 {
     double flatness;  ///< the largest distance, in pixels, between a curve and its edges
     bool powersOfTwo; ///< the number of edges is one: GDI+'s rule
+    double reach = 0; ///< how far from the curve, in pixels, a parallel curve is to be as exact: half a pen's width
 
     /// Windows' pictures of curves without smoothing are reproduced exactly by this.
     static constexpr CurvePrecision asGdiplus(double flatness = 0.25) { return {flatness, true}; }
     /// With smoothing the edges stay within a level of coverage of the curve.
-    static constexpr CurvePrecision fine() { return {1.0 / 256, false}; }
+    static constexpr CurvePrecision fine(double reach = 0) { return {1.0 / 256, false, reach}; }
 };
 
 using Bezier = std::array<PointD, 4>;
 
 /// The number of edges, equal steps of the parameter, that a curve becomes: 1 .. 65536. For n steps the distance is
-/// 3/4 D / n^2 at most, D the larger second difference of the control points.
+/// 3/4 D / n^2 at most, D the larger second difference of the control points. A parallel curve at distance r adds
+/// r a^2 / 8 to it where the curve turns by the angle a within a step.
 int bezierSteps(const Bezier& curve, CurvePrecision precision);
 
 /// Adds the curve's edges; its first point is there already.

@@ -49,11 +49,25 @@ struct PlainRuns
 
     void run(int x, int y, int length, Channel coverage) const
     {
+        expectBelow(x, y, length);
         if (length > kShortRun)
             return painter.run(x, y, length, coverage);
         const Pixel source = withCoverage(colour, coverage);
         for (Pixel& pixel : painter.canvas().run(x, y, length))
             pixel = overPixel<StoredLight>(pixel, source);
+    }
+
+    /// A shape goes on a few rows below, in memory that the processor does not foresee.
+    void expectBelow(int x, int y, int length) const
+    {
+        constexpr int kRowsAhead = 4;
+        constexpr int kPixelsFetched = 16;
+        const PixelView& view = painter.canvas().view;
+        if (y + kRowsAhead >= view.height)
+            return;
+        const Pixel* below = view.row(y + kRowsAhead) + x;
+        for (int i = 0; i < length; i += kPixelsFetched)
+            __builtin_prefetch(below + i, 1);
     }
 };
 
@@ -132,6 +146,8 @@ void SmoothFill::addEdge(PointD from, PointD to, const PixelView& view)
     const PointD end = to - corner;
     if (height < kFlat || end.y <= 0 || start.y >= rows)
         return;
+    if (start.y >= 0 && end.y <= rows && std::min(start.x, end.x) >= 0 && std::max(start.x, end.x) <= columns)
+        return addPart(start, end, direction, view);
     const double slope = (to.x - from.x) / height;
     const auto xAt = [&](double y) { return start.x + (y - start.y) * slope; };
     const auto yAt = [&](double x) { return start.y + (x - start.x) / slope; };
@@ -161,9 +177,11 @@ void SmoothFill::addPart(PointD from, PointD to, double direction, const PixelVi
         return;
     const double begin = std::max(from.x, 0.0);
     const double end = std::max(to.x, 0.0);
+    const int firstRow = static_cast<int>(from.y);
+    if (to.y <= firstRow + 1.0)
+        return addAcrossRow(begin, end, height * direction, static_cast<std::size_t>(firstRow));
     const double slope = (end - begin) / height;
     const auto [least, most] = std::minmax(begin, end);
-    const int firstRow = static_cast<int>(from.y);
     const int lastRow = std::min(static_cast<int>(to.y), m_strip.bottom - m_strip.top - 1);
     double x = begin;
     double y = from.y;

@@ -9,14 +9,25 @@
 namespace vq::gdiplus {
 namespace {
 
-/// Points closer together than this, in pixels, are one.
-constexpr double kSamePoint = 1e-9;
+/// Points closer together than this, in pixels, are one: an edge between them would have the direction of a rounding.
+constexpr double kSamePoint = 1e-3;
+
+/// The sine of an angle that is none.
+constexpr double kNoAngle = 1e-9;
 
 /// What a dash that is shorter than its ends becomes: a line that still has a direction.
-constexpr double kSpeck = 1e-6;
+constexpr double kSpeck = 4e-3;
 
 /// The joints' arcs stay within 1/8 pixel over this of a circle.
 constexpr double kArcScale = 64;
+
+/// The cosine of 18 degrees, up to which a bend is slight, and how much longer than a stroke is wide its outer corner
+/// is.
+constexpr double kSlightBend = 0.951;
+constexpr double kSlightMiter = 1.02;
+
+/// How far, in pixels, the inner side of such a bend may fold back: over an area that nobody sees.
+constexpr double kFold = 0.1;
 
 constexpr double kLeastAnchorWidth = 2;
 constexpr double kArrowLength = std::numbers::sqrt3; // in widths; the half base is one
@@ -99,11 +110,6 @@ void addAnchor(LineEnd kind, const EndAxes& axes, double width, Polylines& outli
     outline.endFigure(true);
 }
 
-PointD pointOf(const agg::vertex_dist& vertex)
-{
-    return {vertex.x, vertex.y};
-}
-
 /// The next point of a line, from one end, that is not that end itself.
 const PointD* nextPoint(std::span<const PointD> points, bool fromEnd)
 {
@@ -127,6 +133,7 @@ void Stroker::stroke(const Polylines& lines, const StrokeStyle& style, const Bou
     m_joints.inner_join(agg::inner_jag);
     m_joints.miter_limit(style.miterLimit);
     m_joints.approximation_scale(kArcScale);
+    m_slightBendsArePointed = style.corner != Corner::Bevel && style.miterLimit > kSlightMiter;
 
     const Polylines& bodies = withoutAnchors(lines, style);
     const auto capOf = [](LineEnd end) { return isAnchor(end) ? LineEnd::Flat : end; };
@@ -153,8 +160,8 @@ const Polylines& Stroker::withoutAnchors(const Polylines& lines, const StrokeSty
             continue;
         if (!figure.closed)
             shorten(atStart, atEnd, false);
-        for (const agg::vertex_dist& vertex : m_vertices)
-            m_bodies.add(pointOf(vertex));
+        for (const Vertex& vertex : m_vertices)
+            m_bodies.add(vertex.at);
         m_bodies.endFigure(figure.closed);
     }
     return m_bodies;
@@ -181,6 +188,7 @@ void Stroker::inset(const Polylines& figures, double distance, Polylines& result
     m_joints.line_join(agg::miter_join);
     m_joints.inner_join(agg::inner_miter);
     m_joints.miter_limit(10);
+    m_slightBendsArePointed = true;
     for (const Polylines::Figure& figure : figures.figures()) {
         const auto points = figures.points(figure);
         if (!figure.closed || !load(points, true) || m_vertices.size() < 3) {
@@ -191,11 +199,12 @@ void Stroker::inset(const Polylines& figures, double distance, Polylines& result
         }
         double area = 0;
         for (std::size_t i = 0; i < m_vertices.size(); ++i) {
-            const agg::vertex_dist& a = m_vertices[i];
-            const agg::vertex_dist& b = m_vertices[(i + 1) % m_vertices.size()];
+            const PointD a = m_vertices[i].at;
+            const PointD b = m_vertices[(i + 1) % m_vertices.size()].at;
             area += a.x * b.y - a.y * b.x;
         }
-        m_joints.width(area > 0 ? -2 * distance : 2 * distance);
+        m_width = area > 0 ? -2 * distance : 2 * distance;
+        m_joints.width(m_width);
         strokeSide(false, result);
         result.endFigure(true);
     }
@@ -207,18 +216,21 @@ bool Stroker::load(std::span<const PointD> points, bool closed)
     m_vertices.clear();
     for (const PointD& point : points) {
         if (!m_vertices.empty()) {
-            agg::vertex_dist& previous = m_vertices.back();
-            previous.dist = lengthOf(point - pointOf(previous));
-            if (previous.dist <= kSamePoint)
+            Vertex& previous = m_vertices.back();
+            const PointD edge = point - previous.at;
+            previous.length = lengthOf(edge);
+            if (previous.length <= kSamePoint)
                 continue;
+            previous.direction = edge * (1 / previous.length);
         }
-        m_vertices.emplace_back(point.x, point.y);
+        m_vertices.push_back({point, {}, 0});
     }
     if (closed) {
-        while (m_vertices.size() > 1 &&
-               lengthOf(pointOf(m_vertices.front()) - pointOf(m_vertices.back())) <= kSamePoint)
+        while (m_vertices.size() > 1 && lengthOf(m_vertices.front().at - m_vertices.back().at) <= kSamePoint)
             m_vertices.pop_back();
-        m_vertices.back().dist = lengthOf(pointOf(m_vertices.front()) - pointOf(m_vertices.back()));
+        const PointD edge = m_vertices.front().at - m_vertices.back().at;
+        m_vertices.back().length = lengthOf(edge);
+        m_vertices.back().direction = edge * (1 / m_vertices.back().length);
     }
     return m_vertices.size() > 1;
 }
@@ -231,7 +243,7 @@ void Stroker::shorten(double atStart, double atEnd, bool keepSpeck)
         return;
     double total = 0;
     for (std::size_t i = 0; i + 1 < m_vertices.size(); ++i)
-        total += m_vertices[i].dist;
+        total += m_vertices[i].length;
     double first = atStart;
     double last = total - atEnd;
     if (last - first < kSpeck) {
@@ -247,34 +259,26 @@ void Stroker::shorten(double atStart, double atEnd, bool keepSpeck)
 /// Keeps what lies between two distances along the line.
 void Stroker::cutTo(double first, double last)
 {
-    const auto pointAt = [&](std::size_t edge, double along) {
-        const PointD from = pointOf(m_vertices[edge]);
-        const PointD to = pointOf(m_vertices[edge + 1]);
-        const PointD point = from + (to - from) * (along / m_vertices[edge].dist);
-        return agg::vertex_dist(point.x, point.y);
-    };
     const auto edgeAt = [&](double& along) {
         std::size_t edge = 0;
-        while (edge + 2 < m_vertices.size() && along > m_vertices[edge].dist)
-            along -= m_vertices[edge++].dist;
+        while (edge + 2 < m_vertices.size() && along > m_vertices[edge].length)
+            along -= m_vertices[edge++].length;
         return edge;
     };
-    double alongFirst = first;
-    double alongLast = last;
-    const std::size_t firstEdge = edgeAt(alongFirst);
-    const std::size_t lastEdge = edgeAt(alongLast);
-    const agg::vertex_dist start = pointAt(firstEdge, alongFirst);
-    const agg::vertex_dist end = pointAt(lastEdge, alongLast);
-    m_vertices.resize(lastEdge + 1);
-    m_vertices.push_back(end);
-    m_vertices.erase(m_vertices.begin(), m_vertices.begin() + static_cast<std::ptrdiff_t>(firstEdge));
-    m_vertices.front() = start;
-    for (std::size_t i = 0; i + 1 < m_vertices.size(); ++i)
-        m_vertices[i].dist = lengthOf(pointOf(m_vertices[i + 1]) - pointOf(m_vertices[i]));
-    // An end that falls on a corner leaves an edge without length.
-    std::erase_if(m_vertices, [&](const agg::vertex_dist& vertex) {
-        return &vertex != &m_vertices.back() && vertex.dist <= kSamePoint / 1000;
-    });
+    const auto pointAt = [&](double along) {
+        const Vertex& vertex = m_vertices[edgeAt(along)];
+        return vertex.at + vertex.direction * along;
+    };
+    const PointD start = pointAt(first);
+    const PointD end = pointAt(last);
+    const std::size_t firstEdge = edgeAt(first);
+    const std::size_t lastEdge = edgeAt(last);
+    m_cut.clear();
+    m_cut.push_back(start);
+    for (std::size_t i = firstEdge + 1; i <= lastEdge; ++i)
+        m_cut.push_back(m_vertices[i].at);
+    m_cut.push_back(end);
+    load(m_cut, false);
 }
 
 /// Ends of dashes keep within the dash; the ends of the whole line reach beyond it.
@@ -327,47 +331,67 @@ void Stroker::strokeSide(bool backwards, Polylines& outline)
     }
 }
 
-/// Of the edge between neighbours; the last vertex of a closed figure is one of the first.
-double Stroker::edgeLength(std::size_t a, std::size_t b) const
+/// Of neighbours; the edge after the last vertex of a closed figure leads to its first one.
+const Stroker::Vertex& Stroker::edgeBetween(std::size_t a, std::size_t b) const
 {
     const auto [lower, upper] = std::minmax(a, b);
-    return m_vertices[upper == lower + 1 ? lower : upper].dist;
+    return m_vertices[upper == lower + 1 ? lower : upper];
 }
 
 void Stroker::join(std::size_t before, std::size_t at, std::size_t after, Target target)
 {
-    const agg::vertex_dist& v0 = m_vertices[before];
-    const agg::vertex_dist& v1 = m_vertices[at];
-    const agg::vertex_dist& v2 = m_vertices[after];
-    const double in = edgeLength(before, at);
-    const double out = edgeLength(at, after);
-    const PointD a = (pointOf(v1) - pointOf(v0)) * (1 / in);
-    const PointD b = (pointOf(v2) - pointOf(v1)) * (1 / out);
-    const bool turnsBack = a.x * b.x + a.y * b.y < 0 && std::abs(a.x * b.y - a.y * b.x) < kSamePoint;
-    if (turnsBack && m_joints.line_join() != agg::round_join) { // a point at a limit would have no direction
-        const double half = m_joints.width() / 2;
-        target.add(pointOf(v1) + PointD{a.y, -a.x} * half);
-        target.add(pointOf(v1) + PointD{b.y, -b.x} * half);
+    const Vertex& in = edgeBetween(before, at);
+    const Vertex& out = edgeBetween(at, after);
+    const double sign = (before + 1) % m_vertices.size() == at ? 1 : -1; // backwards
+    const PointD a = in.direction * sign;
+    const PointD b = out.direction * sign;
+    const PointD corner = m_vertices[at].at;
+    const double cosine = a.x * b.x + a.y * b.y;
+    const double sine = std::abs(a.x * b.y - a.y * b.x);
+    const double half = m_width / 2;
+    // Curves are made of bends so slight that both sides of the stroke have a plain corner there, where the edges reach
+    // about as far as the inner corner.
+    if (m_slightBendsArePointed && cosine > kSlightBend &&
+        (std::min(in.length, out.length) + kFold) * (1 + cosine) > std::abs(half) * sine) {
+        target.add(corner + PointD{a.y + b.y, -a.x - b.x} * (half / (1 + cosine)));
         return;
     }
-    m_joints.calc_join(target, v0, v1, v2, in, out);
+    const bool turnsBack = cosine < 0 && sine < kNoAngle;
+    if (turnsBack && m_joints.line_join() != agg::round_join) { // a point at a limit would have no direction
+        target.add(corner + PointD{a.y, -a.x} * half);
+        target.add(corner + PointD{b.y, -b.x} * half);
+        return;
+    }
+    const auto vertex = [&](std::size_t i) { return agg::vertex_dist(m_vertices[i].at.x, m_vertices[i].at.y); };
+    m_joints.calc_join(target, vertex(before), vertex(at), vertex(after), in.length, out.length);
 }
 
 void Stroker::finish(LineEnd kind, std::size_t at, std::size_t inner, Target target)
 {
-    const double length = edgeLength(at, inner);
-    if (kind == LineEnd::Triangle) {
-        const EndAxes axes = axesAt(pointOf(m_vertices[at]), pointOf(m_vertices[inner]));
-        target.add(axes.place(0, -m_width / 2));
-        target.add(axes.place(m_width / 2, 0));
-        target.add(axes.place(0, m_width / 2));
+    const PointD end = m_vertices[at].at;
+    const Vertex& edge = edgeBetween(at, inner);
+    const PointD inwards = edge.direction * (at < inner ? 1.0 : -1.0);
+    const PointD side = PointD{inwards.y, -inwards.x} * (m_width / 2);
+    switch (kind) {
+    case LineEnd::Triangle:
+        target.add(end - side);
+        target.add(end - inwards * (m_width / 2));
+        target.add(end + side);
+        return;
+    case LineEnd::Square:
+        target.add(end - side - inwards * (m_width / 2));
+        target.add(end + side - inwards * (m_width / 2));
+        return;
+    case LineEnd::Round: {
+        const PointD within = m_vertices[inner].at;
+        m_joints.line_cap(agg::round_cap);
+        m_joints.calc_cap(target, agg::vertex_dist(end.x, end.y), agg::vertex_dist(within.x, within.y), edge.length);
         return;
     }
-    const auto cap = kind == LineEnd::Round    ? agg::round_cap
-                     : kind == LineEnd::Square ? agg::square_cap
-                                               : agg::butt_cap;
-    m_joints.line_cap(cap);
-    m_joints.calc_cap(target, m_vertices[at], m_vertices[inner], length);
+    default:
+        target.add(end - side);
+        target.add(end + side);
+    }
 }
 
 } // namespace vq::gdiplus

@@ -35,6 +35,14 @@ private:
     };
     using Joints = agg::math_stroke<Target>;
 
+    /// A point of the line and the edge that leads on from it.
+    struct Vertex
+    {
+        PointD at;
+        PointD direction; ///< of length 1
+        double length;
+    };
+
     const Polylines& withoutAnchors(const Polylines& lines, const StrokeStyle& style);
     bool load(std::span<const PointD> points, bool closed);
     void shorten(double atStart, double atEnd, bool keepSpeck);
@@ -44,11 +52,13 @@ private:
     void strokeSide(bool backwards, Polylines& outline);
     void join(std::size_t before, std::size_t at, std::size_t after, Target target);
     void finish(LineEnd kind, std::size_t at, std::size_t inner, Target target);
-    double edgeLength(std::size_t a, std::size_t b) const;
+    const Vertex& edgeBetween(std::size_t a, std::size_t b) const;
 
     Joints m_joints;
     double m_width = 1;
-    std::vector<agg::vertex_dist> m_vertices;
+    bool m_slightBendsArePointed = true; ///< corners of small angles are pointed
+    std::vector<Vertex> m_vertices;
+    std::vector<PointD> m_cut;
     Polylines m_bodies;
     Polylines m_dashes;
 };
