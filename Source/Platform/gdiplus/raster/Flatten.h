@@ -16,8 +16,12 @@ struct CurvePrecision
 
     /// Windows' pictures of curves without smoothing are reproduced exactly by this.
     static constexpr CurvePrecision asGdiplus(double flatness = 0.25) { return {flatness, true}; }
-    /// With smoothing the edges stay within a level of coverage of the curve.
-    static constexpr CurvePrecision fine(double reach = 0) { return {1.0 / 256, false, reach}; }
+    /// With smoothing the edges of a curve, and those of a parallel curve, stay within one and a half levels of
+    /// coverage of it. Parallels within a pixel are as exact as the curve.
+    static constexpr CurvePrecision fine(double reach = 0)
+    {
+        return reach > 1 ? CurvePrecision{1.0 / 256, false, reach} : CurvePrecision{1.0 / 180, false};
+    }
 };
 
 using Bezier = std::array<PointD, 4>;

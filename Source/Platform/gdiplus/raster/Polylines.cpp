@@ -25,8 +25,10 @@ Bounds Polylines::bounds() const
 
 bool Polylines::finite() const
 {
-    return std::ranges::all_of(m_points,
-                               [](const PointD& point) { return std::isfinite(point.x) && std::isfinite(point.y); });
+    double nothing = 0; // becomes no number by one that is none, or not finite
+    for (const PointD& point : m_points)
+        nothing += (point.x + point.y) * 0;
+    return nothing == 0;
 }
 
 Polylines Polylines::movedBy(PointD distance) const

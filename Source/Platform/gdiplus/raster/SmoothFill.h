@@ -22,23 +22,12 @@ public:
     void fill(const Polylines& shape, FillRule rule, const Painter& painter);
 
 private:
-    /// Pixels first .. end - 1 of each axis.
-    struct Box
-    {
-        int left, top, right, bottom;
-    };
+    class Grid;
 
-    void fillStrip(const Polylines& shape, FillRule rule, const Painter& painter);
-    void addEdge(PointD from, PointD to, const PixelView& view);
-    void addPart(PointD from, PointD to, double direction, const PixelView& view);
-    void addAcrossRow(double xBegin, double xEnd, double height, std::size_t row);
-    void add(std::size_t row, std::size_t column, double change);
+    void fillStrip(const Polylines& shape, FillRule rule, const Painter& painter, const Grid& grid);
     template <FillRule rule, typename Runs>
-    void sweep(const Runs& runs);
+    void sweep(const Runs& runs, const Grid& grid);
 
-    Box m_strip{};                        ///< of the surface, what is being filled
-    std::size_t m_columns = 0;            ///< in the grid, two more than in the strip
-    std::size_t m_words = 0;              ///< of bits in a row
     std::vector<float> m_changes;         ///< all 0 between strips
     std::vector<std::uint64_t> m_touched; ///< so are these
 };
