@@ -3,6 +3,7 @@
 
 #include "Platform/gdiplus/Base.h"
 #include "Platform/gdiplus/Started.h"
+#include "Platform/gdiplus/text/Text.h"
 
 #include <atomic>
 #include <cstdlib>
@@ -38,17 +39,19 @@ ULONG_PTR addStartup() noexcept
     return startup->token;
 }
 
-void removeStartup(ULONG_PTR token) noexcept
+/// Whether it was the last one.
+bool removeStartup(ULONG_PTR token) noexcept
 {
     const std::lock_guard guard(lock);
     Startup** link = &newest;
     while (*link && (*link)->token != token)
         link = &(*link)->older;
     if (!*link)
-        return;
+        return false;
     const std::unique_ptr<Startup> removed(*link);
     *link = removed->older;
     started = newest != nullptr;
+    return !started;
 }
 
 Gdiplus::Status WINAPI hookNotifications(ULONG_PTR* token)
@@ -91,8 +94,8 @@ Status WINAPI GdiplusStartup(ULONG_PTR* token, const GdiplusStartupInput* input,
 
 VOID WINAPI GdiplusShutdown(ULONG_PTR token)
 {
-    if (token != 0)
-        vq::gdiplus::removeStartup(token);
+    if (token != 0 && vq::gdiplus::removeStartup(token))
+        vq::gdiplus::releaseTextEngine();
 }
 
 VOID* WINAPI DllExports::GdipAlloc(std::size_t size) noexcept

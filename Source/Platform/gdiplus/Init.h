@@ -45,8 +45,9 @@ struct GdiplusStartupOutput
 VQPLATFORM_API Status WINAPI GdiplusStartup(ULONG_PTR* token, const GdiplusStartupInput* input,
                                             GdiplusStartupOutput* output);
 
-/// Ends the start-up that gave `token`. A token of 0, an unknown or an already used one does nothing. Objects may
-/// outlive the last shut-down: their calls answer `GdiplusNotInitialized` and they can be deleted.
+/// Ends the start-up that gave `token`. A token of 0, an unknown or an already used one does nothing. The last
+/// shut-down gives back what was kept of fonts and glyphs. Objects may outlive it: their calls answer
+/// `GdiplusNotInitialized` and they can be deleted.
 VQPLATFORM_API VOID WINAPI GdiplusShutdown(ULONG_PTR token);
 
 } // namespace Gdiplus

@@ -15,7 +15,8 @@
 ///
 /// Everything here may be called from any thread; one lock is held within a call. No thread is started. Fonts, shaped
 /// texts and glyphs are kept within fixed budgets, the least recently used leaving first: a scene that fits into them
-/// takes no memory when it is drawn again. `releaseTextEngine` runs by itself when the library is unloaded.
+/// takes no memory when it is drawn again. `releaseTextEngine` runs by itself when GDI+ is shut down and when the
+/// library is unloaded.
 
 #include "Platform/gdiplus/text/Font.h"
 #include "Platform/gdiplus/text/GlyphSink.h"

@@ -347,6 +347,20 @@ TEST(TextBeforeStartup, IsNotInitialized)
     EXPECT_EQ(StringFormat().GetLastStatus(), GdiplusNotInitialized);
 }
 
+TEST(TextAfterShutdown, GivesBackWhatWasKeptOfFontsAndGlyphs)
+{
+    std::size_t drawn = 0;
+    {
+        const GdiplusSession session;
+        TestPicture picture(100, 30);
+        const SolidBrush brush{Color(kBlack)};
+        EXPECT_EQ(picture.graphics.DrawString(L"Label", -1, sansFont(-11).get(), PointF(), &brush), Ok);
+        drawn = bytesInUse();
+    }
+    constexpr std::size_t kLeast = 32 * 1024; // the lists of fonts alone are more
+    EXPECT_TRUE(drawn == 0 || bytesInUse() + kLeast < drawn) << "0 where memory is not counted";
+}
+
 TEST(TextAfterShutdown, FontsCanBeDeletedAndUsedAgain)
 {
     std::unique_ptr<Font> font;
