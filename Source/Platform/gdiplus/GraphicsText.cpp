@@ -24,12 +24,14 @@ namespace {
 class BrushSink final : public vq::gdiplus::GlyphSink
 {
 public:
-    explicit BrushSink(const Painter& painter) : m_painter(painter) {}
+    explicit BrushSink(const Painter& painter) : m_painter(painter), m_plain(painter.plainColour()) {}
 
     void glyph(const vq::gdiplus::GlyphCoverage& glyph) noexcept override
     {
+        if (m_plain)
+            return plainGlyph(glyph, *m_plain);
         for (int row = 0; row < glyph.height; ++row)
-            m_painter.run(glyph.x, glyph.y + row, {glyph.row(row), static_cast<std::size_t>(glyph.width)});
+            m_painter.run(glyph.x, glyph.y + row, coverageOf(glyph, row));
     }
 
     void colourGlyph(int x, int y, const vq::gdiplus::ConstPixelView& pixels) noexcept override
@@ -45,7 +47,22 @@ public:
     }
 
 private:
+    static std::span<const vq::gdiplus::Channel> coverageOf(const vq::gdiplus::GlyphCoverage& glyph, int row)
+    {
+        return {glyph.row(row), static_cast<std::size_t>(glyph.width)};
+    }
+
+    /// The painter finds its way anew for each row, which takes as long as the few pixels there.
+    void plainGlyph(const vq::gdiplus::GlyphCoverage& glyph, vq::gdiplus::Pixel colour) const
+    {
+        const Canvas& canvas = m_painter.canvas();
+        for (int row = 0; row < glyph.height; ++row)
+            compositeColour(canvas.run(glyph.x, glyph.y + row, glyph.width), colour, coverageOf(glyph, row),
+                            canvas.blend);
+    }
+
     const Painter& m_painter;
+    std::optional<vq::gdiplus::Pixel> m_plain;
 };
 
 /// The characters that a call means, never past a null; none when there is no text or no such length.
