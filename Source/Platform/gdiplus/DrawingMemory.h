@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Platform/gdiplus/PathPoints.h"
+#include "Platform/gdiplus/compositor/StripMemory.h"
 #include "Platform/gdiplus/raster/ShapeRenderer.h"
 
 namespace vq::gdiplus {
@@ -11,6 +12,7 @@ struct DrawingMemory
 {
     PathPoints path; ///< of a call that is given coordinates
     ShapeRenderer shapes;
+    StripMemory strips; ///< of scaled pictures
 };
 
 } // namespace vq::gdiplus

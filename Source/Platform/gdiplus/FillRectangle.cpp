@@ -51,8 +51,12 @@ void fillAliased(const Painter& painter, double left, double top, double right, 
     const Range rows = centresInside(top, bottom, view.height);
     if (columns.length() == 0)
         return;
-    for (int y = rows.first; y < rows.last; ++y)
+    constexpr int kRowsAhead = 4;
+    for (int y = rows.first; y < rows.last; ++y) {
+        if (y + kRowsAhead < rows.last)
+            painter.expect(columns.first, y + kRowsAhead, columns.length());
         painter.run(columns.first, y, columns.length());
+    }
 }
 
 void fillSmooth(const Painter& painter, double left, double top, double right, double bottom)

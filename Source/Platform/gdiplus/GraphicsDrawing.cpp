@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/gdiplus/Conversions.h"
+#include "Platform/gdiplus/DrawingMemory.h"
 #include "Platform/gdiplus/FillRectangle.h"
 #include "Platform/gdiplus/GraphicsAccess.h"
 #include "Platform/gdiplus/ImageAccess.h"
@@ -45,12 +46,12 @@ Rect touched(const FloatRect& target, vq::gdiplus::PixelView view)
 
 /// Draws a picture and sees to what alpha means on the surface.
 void drawPicture(const Canvas& canvas, const FloatRect& target, vq::gdiplus::ConstPixelView image,
-                 const FloatRect& source, vq::gdiplus::Sampling sampling)
+                 const FloatRect& source, vq::gdiplus::Sampling sampling, vq::gdiplus::StripMemory& strips)
 {
     const bool copies = canvas.blend == Blend::SourceCopy;
     if (canvas.alpha == SurfaceAlpha::Device && !copies)
         makeOpaque(canvas.view, touched(target, canvas.view));
-    drawImage(canvas.view, target, image, source, sampling, canvas.blend, canvas.halfPixelOffset);
+    drawImage(canvas.view, target, image, source, sampling, canvas.blend, canvas.halfPixelOffset, &strips);
     if (canvas.alpha == SurfaceAlpha::Opaque && copies)
         makeOpaque(canvas.view, touched(target, canvas.view));
 }
@@ -131,7 +132,8 @@ Status Graphics::drawPart(Image* image, const RectF& target, const RectF& source
             return aside.status;
         const vq::gdiplus::ConstPixelView view = aside.pixels ? aside.pixels->words() : pixels.view();
         return state.draw([&](const Canvas& canvas) {
-            drawPicture(canvas, targetPixels, view, sourcePixels, samplingOf(state.settings.interpolationMode));
+            drawPicture(canvas, targetPixels, view, sourcePixels, samplingOf(state.settings.interpolationMode),
+                        state.memory().strips);
             return Ok;
         });
     });

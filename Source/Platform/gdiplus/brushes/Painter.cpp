@@ -54,19 +54,34 @@ void Painter::paint(int x, int y, std::size_t length, Solid solid, Shaded shaded
     });
 }
 
-std::optional<Pixel> Painter::plainColour() const
+Painter::Painter(const Canvas& canvas, const Shader& shader) : m_canvas(canvas), m_shader(shader)
 {
-    if (m_canvas.blend != Blend::SourceOver || m_canvas.alpha != SurfaceAlpha::Stored)
-        return std::nullopt;
-    return m_shader.visit([]<typename Kind>(const Kind& shader) -> std::optional<Pixel> {
+    if (canvas.blend != Blend::SourceOver || canvas.alpha != SurfaceAlpha::Stored)
+        return;
+    shader.visit([&]<typename Kind>(const Kind& kind) {
         if constexpr (kIsSolid<Kind>)
-            return shader.colour;
-        else
-            return std::nullopt;
+            m_plain.emplace(kind.colour);
     });
 }
 
-void Painter::run(int x, int y, int length) const
+std::optional<Pixel> Painter::plainColour() const
+{
+    return m_plain ? std::optional(m_plain->colour()) : std::nullopt;
+}
+
+bool Painter::canRepeat() const
+{
+    if (m_canvas.blend == Blend::SourceCopy)
+        return true;
+    return m_shader.visit([]<typename Kind>(const Kind& shader) {
+        if constexpr (kIsSolid<Kind>)
+            return alphaOf(shader.colour) == 255;
+        else
+            return false;
+    });
+}
+
+void Painter::anyRun(int x, int y, int length) const
 {
     const Blend blend = m_canvas.blend;
     paint(

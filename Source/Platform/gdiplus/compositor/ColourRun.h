@@ -18,7 +18,6 @@ class ColourRun
 public:
     static constexpr std::size_t kPixels = 8;
 
-    /// A colour of alpha 1 .. 254.
     explicit ColourRun(Pixel colour)
     {
         const std::uint32_t alpha = alphaOf(colour);
@@ -33,13 +32,14 @@ public:
         }
     }
 
+    static constexpr std::size_t kHalf = kPixels / 2;
+
     enum class Below { Opaque, Transparent, Mixed };
 
     static Below look(const Pixel* pixels)
     {
-        constexpr std::uint64_t kAlphas = 0xFF000000'FF000000;
         const Words first = load(pixels);
-        const Words second = load(pixels + kPixels / 2);
+        const Words second = load(pixels + kHalf);
         const std::uint64_t all = first[0] & first[1] & second[0] & second[1];
         if ((all & kAlphas) == kAlphas)
             return Below::Opaque;
@@ -47,27 +47,21 @@ public:
         return (any & kAlphas) == 0 ? Below::Transparent : Below::Mixed;
     }
 
+    static bool isHalfOpaque(const Pixel* pixels)
+    {
+        const Words words = load(pixels);
+        return (words[0] & words[1] & kAlphas) == kAlphas;
+    }
+
     /// `sourceOver` over kPixels opaque pixels.
     void overOpaque(Pixel* pixels) const
     {
-        mix(pixels);
-        mix(pixels + kPixels / 2);
+        overHalfOpaque(pixels);
+        overHalfOpaque(pixels + kHalf);
     }
 
-private:
-    using Lanes [[gnu::vector_size(16)]] = std::uint16_t;
-    using Words = std::array<std::uint64_t, 2>;
-    static constexpr int kLanes = 8;
-
-    static Words load(const Pixel* pixels)
-    {
-        Words words;
-        std::memcpy(&words, pixels, sizeof words);
-        return words;
-    }
-
-    /// `dividedBy255` of both channels of each lane.
-    void mix(Pixel* pixels) const
+    /// Over kHalf of them: `dividedBy255` of both channels of each lane.
+    void overHalfOpaque(Pixel* pixels) const
     {
         Lanes lanes;
         std::memcpy(&lanes, pixels, sizeof lanes);
@@ -75,6 +69,19 @@ private:
         const Lanes high = (lanes >> 8) * m_kept + m_high;
         lanes = ((low + (low >> 8)) >> 8) | ((high + (high >> 8)) & 0xFF00);
         std::memcpy(pixels, &lanes, sizeof lanes);
+    }
+
+private:
+    using Lanes [[gnu::vector_size(16)]] = std::uint16_t;
+    using Words = std::array<std::uint64_t, 2>;
+    static constexpr int kLanes = 8;
+    static constexpr std::uint64_t kAlphas = 0xFF000000'FF000000;
+
+    static Words load(const Pixel* pixels)
+    {
+        Words words;
+        std::memcpy(&words, pixels, sizeof words);
+        return words;
     }
 
     Lanes m_kept;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/gdiplus/compositor/CompositeRow.h"
 
-#include "Platform/gdiplus/compositor/ColourRun.h"
+#include "Platform/gdiplus/compositor/CompositePixel.h"
 
 #include <algorithm>
 #include <array>
@@ -290,28 +290,6 @@ void compositeRunOnePixelAtATime(std::span<Pixel> destination, Pixel colour)
         pixel = Mode::pixel(pixel, colour);
 }
 
-void overRun(std::span<Pixel> destination, Pixel colour)
-{
-    const ColourRun run(colour);
-    std::array<Pixel, ColourRun::kPixels> source;
-    source.fill(colour);
-    Pixel* pixel = destination.data();
-    std::size_t left = destination.size();
-    for (; left >= ColourRun::kPixels; left -= ColourRun::kPixels, pixel += ColourRun::kPixels) {
-        switch (ColourRun::look(pixel)) {
-        case ColourRun::Below::Opaque:
-            run.overOpaque(pixel);
-            break;
-        case ColourRun::Below::Transparent:
-            std::ranges::copy(source, pixel);
-            break;
-        case ColourRun::Below::Mixed:
-            overAny(pixel, source.data(), ColourRun::kPixels);
-        }
-    }
-    compositeRunOnePixelAtATime<Over>({pixel, left}, colour);
-}
-
 /// Rows up to this length are most often those of glyphs.
 constexpr std::size_t kGlyphRow = 32;
 
@@ -355,7 +333,7 @@ void compositeColour(std::span<Pixel> destination, Pixel colour, Blend blend)
     else if (alphaOf(colour) == 0)
         return;
     else if (blend == Blend::SourceOver)
-        overRun(destination, colour);
+        OverColour{colour}(destination);
     else
         compositeRunOnePixelAtATime<OverInLinearLight>(destination, colour);
 }
@@ -373,6 +351,36 @@ void compositeColour(std::span<Pixel> destination, Pixel colour, Channel coverag
     if (blend != Blend::SourceCopy || coverage == 255)
         return compositeColour(destination, coverage == 255 ? colour : withCoverage(colour, coverage), blend);
     copyRun(destination, colour, coverage);
+}
+
+void OverColour::operator()(std::span<Pixel> destination) const
+{
+    if (alphaOf(m_colour) == 255)
+        std::ranges::fill(destination, m_colour);
+    if (alphaOf(m_colour) % 255 == 0)
+        return;
+    std::array<Pixel, ColourRun::kPixels> source;
+    source.fill(m_colour);
+    Pixel* pixel = destination.data();
+    std::size_t left = destination.size();
+    for (; left >= ColourRun::kPixels; left -= ColourRun::kPixels, pixel += ColourRun::kPixels) {
+        switch (ColourRun::look(pixel)) {
+        case ColourRun::Below::Opaque:
+            m_run.overOpaque(pixel);
+            break;
+        case ColourRun::Below::Transparent:
+            std::ranges::copy(source, pixel);
+            break;
+        case ColourRun::Below::Mixed:
+            overAny(pixel, source.data(), ColourRun::kPixels);
+        }
+    }
+    if (left >= ColourRun::kHalf && ColourRun::isHalfOpaque(pixel)) {
+        m_run.overHalfOpaque(pixel);
+        left -= ColourRun::kHalf;
+        pixel += ColourRun::kHalf;
+    }
+    compositeRunOnePixelAtATime<Over>({pixel, left}, m_colour);
 }
 
 } // namespace vq::gdiplus

@@ -8,7 +8,7 @@
 /// All spans of a call have the same length. A source row is the destination itself or does not overlap it.
 
 #include "Platform/gdiplus/compositor/Blend.h"
-#include "Platform/gdiplus/compositor/PixelView.h"
+#include "Platform/gdiplus/compositor/ColourRun.h"
 
 #include <span>
 
@@ -29,5 +29,19 @@ void compositeColour(std::span<Pixel> destination, Pixel colour, std::span<const
 
 /// One colour over a run of the same coverage.
 void compositeColour(std::span<Pixel> destination, Pixel colour, Channel coverage, Blend blend);
+
+/// One colour over many runs that are covered in full, `SourceOver`: what the colour needs is made ready once.
+class OverColour
+{
+public:
+    explicit OverColour(Pixel colour) : m_run(colour), m_colour(colour) {}
+
+    Pixel colour() const { return m_colour; }
+    void operator()(std::span<Pixel> destination) const;
+
+private:
+    ColourRun m_run;
+    Pixel m_colour;
+};
 
 } // namespace vq::gdiplus

@@ -153,11 +153,10 @@ std::size_t bytesForStrip(std::size_t count)
     return StripColumns::bytesFor(count) + 2 * StripRow::bytesFor(count) + StripMemory::bytesFor<Pixel>(count);
 }
 
-bool drawBilinear(const Transfer& transfer)
+bool drawBilinear(const Transfer& transfer, StripMemory& memory)
 {
     const SampleAxis& columns = transfer.columns;
-    StripMemory memory(bytesForStrip(static_cast<std::size_t>(columns.end() - columns.begin())));
-    if (!memory)
+    if (!memory.provide(bytesForStrip(static_cast<std::size_t>(columns.end() - columns.begin()))))
         return false;
     const auto reach = [&](int x) { return columns.reachAt(x); };
     const auto strip = [&](Reach kind, int begin, int end) {
@@ -173,7 +172,7 @@ bool drawBilinear(const Transfer& transfer)
 } // namespace
 
 bool drawImage(PixelView canvas, FloatRect target, ConstPixelView image, FloatRect source, Sampling sampling,
-               Blend blend, bool halfPixelOffset)
+               Blend blend, bool halfPixelOffset, StripMemory* kept)
 {
     const auto columns = SampleAxis::create({target.x, target.width}, {source.x, source.width}, canvas.width,
                                             image.width, halfPixelOffset);
@@ -184,8 +183,10 @@ bool drawImage(PixelView canvas, FloatRect target, ConstPixelView image, FloatRe
 
     const Transfer transfer{canvas, image, *columns, *rows, blend};
     const bool isPicked = columns->hasWholePositions() && rows->hasWholePositions();
-    if (sampling == Sampling::Bilinear && !isPicked)
-        return drawBilinear(transfer);
+    if (sampling == Sampling::Bilinear && !isPicked) {
+        StripMemory own;
+        return drawBilinear(transfer, kept ? *kept : own);
+    }
     drawNearest(transfer);
     return true;
 }

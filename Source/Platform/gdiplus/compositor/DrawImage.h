@@ -9,6 +9,8 @@
 
 namespace vq::gdiplus {
 
+class StripMemory;
+
 enum class Sampling { Nearest, Bilinear };
 
 struct FloatRect
@@ -36,9 +38,9 @@ struct FloatRect
 /// A negative width or height mirrors (measured on Wine 8.0). A rectangle without width or height, or with a number
 /// that is not finite, draws nothing; any other is clipped to the canvas, whatever its size. The pictures must not
 /// overlap in memory, except that an image may be drawn onto itself unscaled in its place. To clip, pass a part of the
-/// canvas as the view and move `target` by its corner. False, with nothing drawn, when memory for two rows cannot be
-/// had.
+/// canvas as the view and move `target` by its corner. False, with nothing drawn, when memory for two rows, which may
+/// be `kept` from call to call, cannot be had.
 bool drawImage(PixelView canvas, FloatRect target, ConstPixelView image, FloatRect source, Sampling sampling,
-               Blend blend, bool halfPixelOffset);
+               Blend blend, bool halfPixelOffset, StripMemory* kept = nullptr);
 
 } // namespace vq::gdiplus

@@ -8,13 +8,21 @@
 
 namespace vq::gdiplus {
 
-/// One block of memory, given out in pieces without content that start at multiples of 64 from each other.
+/// One block of memory, given out in pieces without content that start at multiples of 64 from each other. It may be
+/// kept from drawing to drawing.
 class StripMemory
 {
 public:
-    explicit StripMemory(std::size_t bytes) : m_bytes(new (std::nothrow) std::byte[bytes]) {}
-
-    explicit operator bool() const { return m_bytes != nullptr; }
+    /// Sees to the size of the block, whose pieces are all given back; false when memory cannot be had.
+    bool provide(std::size_t bytes)
+    {
+        rewind();
+        if (bytes <= m_size)
+            return true;
+        m_bytes.reset(new (std::nothrow) std::byte[bytes]);
+        m_size = m_bytes ? bytes : 0;
+        return m_bytes != nullptr;
+    }
 
     /// How much `take` needs for a piece.
     template <typename T>
@@ -39,6 +47,7 @@ private:
     static constexpr std::size_t kAlignment = 64;
 
     std::unique_ptr<std::byte[]> m_bytes;
+    std::size_t m_size = 0;
     std::size_t m_taken = 0;
 };
 

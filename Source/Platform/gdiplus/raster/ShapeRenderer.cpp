@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/gdiplus/raster/ShapeRenderer.h"
 
+#include "Platform/gdiplus/compositor/CompositePixel.h"
 #include "Platform/gdiplus/raster/ThinLine.h"
 
 namespace vq::gdiplus {
@@ -75,12 +76,33 @@ void ShapeRenderer::strokeInside(const Painter& painter, const Polylines& figure
 void ShapeRenderer::strokeThin(const Painter& painter, const Polylines& lines, const StrokeStyle& style)
 {
     const PixelView& view = painter.canvas().view;
+    if (plainLine(lines, style) || painter.canRepeat()) { // no pixel comes twice, or it does not matter
+        strokeThinNow(painter, lines, style);
+        return;
+    }
     const auto add = [this](int y, int first, int end) { m_runs.add(y, first, end); };
     drawThin(lines, style.dashes, view.width, view.height, add);
     m_outline.clear();
     m_stroker.addAnchors(lines, style, m_outline);
     m_hard.fill(m_outline, FillRule::Winding, view.width, view.height, add);
     m_runs.paint(painter);
+}
+
+void ShapeRenderer::strokeThinNow(const Painter& painter, const Polylines& lines, const StrokeStyle& style)
+{
+    const PixelView& view = painter.canvas().view;
+    if (const auto colour = painter.plainColour())
+        drawThin(lines, style.dashes, view.width, view.height, [=](int y, int first, int) {
+            Pixel& pixel = view.row(y)[first];
+            pixel = overPixel<StoredLight>(pixel, *colour);
+        });
+    else
+        drawThin(lines, style.dashes, view.width, view.height,
+                 [&](int y, int first, int end) { painter.run(first, y, end - first); });
+    m_outline.clear();
+    m_stroker.addAnchors(lines, style, m_outline);
+    m_hard.fill(m_outline, FillRule::Winding, view.width, view.height,
+                [&](int y, int first, int end) { painter.run(first, y, end - first); });
 }
 
 } // namespace vq::gdiplus

@@ -30,6 +30,7 @@ public:
 
 private:
     void strokeThin(const Painter& painter, const Polylines& lines, const StrokeStyle& style);
+    void strokeThinNow(const Painter& painter, const Polylines& lines, const StrokeStyle& style);
 
     Polylines m_shape;
     Polylines m_outline;

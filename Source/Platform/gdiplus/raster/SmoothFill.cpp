@@ -36,6 +36,9 @@ Channel toCoverage(float area)
     return static_cast<Channel>(static_cast<int>(std::min(covered, 1.0F) * 255 + 0.5F));
 }
 
+/// A shape goes on below: how far ahead its memory is asked for.
+constexpr int kRowsAhead = 4;
+
 /// One colour over pixels with alpha.
 struct PlainRuns
 {
@@ -50,25 +53,14 @@ struct PlainRuns
 
     void run(int x, int y, int length, Channel coverage) const
     {
-        expectBelow(x, y, length);
+        painter.expect(x, y + kRowsAhead, length);
+        if (coverage == 255)
+            return painter.run(x, y, length);
         if (length > kShortRun)
             return painter.run(x, y, length, coverage);
         const Pixel source = withCoverage(colour, coverage);
         for (Pixel& pixel : painter.canvas().run(x, y, length))
             pixel = overPixel<StoredLight>(pixel, source);
-    }
-
-    /// A shape goes on a few rows below, in memory that the processor does not foresee.
-    void expectBelow(int x, int y, int length) const
-    {
-        constexpr int kRowsAhead = 4;
-        constexpr int kPixelsFetched = 16;
-        const PixelView& view = painter.canvas().view;
-        if (y + kRowsAhead >= view.height)
-            return;
-        const Pixel* below = view.row(y + kRowsAhead) + x;
-        for (int i = 0; i < length; i += kPixelsFetched)
-            __builtin_prefetch(below + i, 1);
     }
 };
 

@@ -44,9 +44,9 @@ void forEachThinPixel(PointD from, PointD to, int width, int height, Pixel pixel
     }
 }
 
-/// Calls `run(y, first, end)` for the pixels of all edges; those where edges meet come more than once.
+/// Calls `pixel(y, x, x + 1)` for the pixels of all edges; those where edges meet come more than once.
 template <typename Run>
-void drawThin(const Polylines& lines, const DashPattern& dashes, int width, int height, Run run)
+void drawThin(const Polylines& lines, const DashPattern& dashes, int width, int height, Run pixel)
 {
     // A pixel lies on the dash that begins at it, however its distance is rounded.
     constexpr double kRounding = 1e-6;
@@ -58,7 +58,7 @@ void drawThin(const Polylines& lines, const DashPattern& dashes, int width, int 
                 return;
             forEachThinPixel(from, to, width, height, [&](int x, int y, double distance) {
                 if (dashes.solid() || dashes.at(begin + distance + kRounding).on)
-                    run(y, x, x + 1);
+                    pixel(y, x, x + 1);
             });
             begin += lengthOf(to - from);
         };
