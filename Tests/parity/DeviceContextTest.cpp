@@ -63,10 +63,8 @@ TEST(LentContext, WhatIsDrawnThereBecomesOpaqueAndTheRestStays)
     picture.graphics.ReleaseHDC(context);
 
     EXPECT_EQ(picture.row(0), Row(6, Argb{0x40102030}));
-    EXPECT_EQ(picture.row(1),
-              row({0x40102030, 0xFFAABBCC, 0xFFAABB00, 0xFFAABBCC, 0xFFAABBCC, 0x40102030}));
-    EXPECT_EQ(picture.row(2),
-              row({0x40102030, 0xFFAABBCC, 0xFFAABBCC, 0xFFAABBCC, 0xFFAABBCC, 0x40102030}));
+    EXPECT_EQ(picture.row(1), row({0x40102030, 0xFFAABBCC, 0xFFAABB00, 0xFFAABBCC, 0xFFAABBCC, 0x40102030}));
+    EXPECT_EQ(picture.row(2), row({0x40102030, 0xFFAABBCC, 0xFFAABBCC, 0xFFAABBCC, 0xFFAABBCC, 0x40102030}));
 }
 
 TEST(LentContext, EveryCallIsBusyWhileItIsOut)
@@ -97,6 +95,69 @@ TEST(LentContext, PixelsOfThePreparedColourAreLost)
     BitBlt(context, 0, 0, 2, 1, source.handle(), 0, 0, SRCCOPY);
     picture.graphics.ReleaseHDC(context);
     EXPECT_EQ(picture.all(), row({0x40102030, 0xFF0C0B0D}));
+}
+
+TEST(LentContext, ShowsThePreparedColourUntilItIsDrawnOn)
+{
+    if (differsHere("surface of a lent context"))
+        return;
+    TestPicture picture(3, 4, 0x40102030);
+    MemoryContext copy(3, 4, 0);
+    for (int lending = 0; lending < 2; ++lending) {
+        const HDC context = picture.graphics.GetHDC();
+        EXPECT_EQ(GetPixel(context, 2, 3), RGB(13, 11, 12)) << lending;
+        EXPECT_EQ(SetPixel(context, 1, 1, RGB(1, 2, 3)), RGB(1, 2, 3));
+        EXPECT_TRUE(BitBlt(copy.handle(), 0, 0, 3, 4, context, 0, 0, SRCCOPY));
+        for (int i = 0; i < 12; ++i)
+            EXPECT_EQ(Argb{copy[i] & 0xFFFFFF}, Argb{i == 4 ? 0x010203u : 0x0D0B0Cu}) << lending << ", pixel " << i;
+        picture.graphics.ReleaseHDC(context);
+    }
+    EXPECT_EQ(picture.findOther(0x40102030), (TestPicture::Found{1, 1, 1, 1, 1}));
+}
+
+TEST(LentContext, TakesRowsInAnyOrder)
+{
+    TestPicture picture(2, 9, 0x40102030);
+    const HDC context = picture.graphics.GetHDC();
+    for (const int y : {5, 2, 7, 2})
+        SetPixel(context, 1, y, RGB(y, y, y));
+    picture.graphics.ReleaseHDC(context);
+    for (int y = 0; y < 9; ++y) {
+        const bool isDrawn = y == 5 || y == 2 || y == 7;
+        const auto grey = 0xFF000000 | static_cast<std::uint32_t>(y) * 0x010101;
+        EXPECT_EQ(picture.row(y), row({0x40102030, isDrawn ? grey : 0x40102030})) << y;
+    }
+}
+
+TEST(LentContext, LeavesAloneWhatIsDrawnBetweenTwoLendings)
+{
+    TestPicture picture(2, 2, 0x40102030);
+    for (int lending = 0; lending < 3; ++lending) {
+        const HDC context = picture.graphics.GetHDC();
+        if (lending != 1)
+            PatBlt(context, lending / 2, 0, 1, 2, WHITENESS);
+        picture.graphics.ReleaseHDC(context);
+        EXPECT_EQ(picture.graphics.GetLastStatus(), Gdiplus::Ok);
+        if (lending == 0)
+            picture.fill(0xFF112233, 0, 0, 1, 1);
+    }
+    EXPECT_EQ(picture.all(), row({0xFF112233, 0xFFFFFFFF, 0xFFFFFFFF, 0xFFFFFFFF}));
+}
+
+TEST(LentContext, MakesFontsAndTellsTheScreensFigures)
+{
+    TestPicture picture(2, 2, 0x40102030);
+    const HDC screen = GetDC(nullptr);
+    const HDC context = picture.graphics.GetHDC();
+    EXPECT_EQ(GetDeviceCaps(context, LOGPIXELSY), GetDeviceCaps(screen, LOGPIXELSY));
+    EXPECT_EQ(GetObjectType(context), static_cast<DWORD>(OBJ_MEMDC));
+    LOGFONTW description{};
+    description.lfHeight = -16;
+    const Gdiplus::Font font(context, &description);
+    EXPECT_EQ(font.GetSize(), 16);
+    picture.graphics.ReleaseHDC(context);
+    ReleaseDC(nullptr, screen);
+    EXPECT_EQ(picture.all(), Row(4, Argb{0x40102030}));
 }
 
 TEST(DeviceContextGraphics, FillsReachTheSelectedBitmap)

@@ -2,7 +2,6 @@
 #include "Platform/gdiplus/GraphicsState.h"
 
 #include <algorithm>
-#include <vector>
 
 namespace vq::gdiplus {
 namespace {
@@ -24,45 +23,45 @@ bool hasDrawnPixels(std::span<const Pixel> row)
     return differences != 0;
 }
 
+/// Copies runs of drawn pixels, so that the others keep every bit. The row becomes opaque where it was drawn on.
+void copyDrawn(std::span<Pixel> row, PixelStore& target, int y)
+{
+    auto end = row.begin();
+    while (true) {
+        const auto first = std::find_if(end, row.end(), isDrawn);
+        if (first == row.end())
+            return;
+        end = std::find_if_not(first, row.end(), isDrawn);
+        for (Pixel& pixel : std::span(first, end))
+            pixel |= kAlphaBits;
+        writeRow(target.layout, {first, end}, target.at(static_cast<int>(first - row.begin()), y));
+    }
+}
+
 } // namespace
 
-BorrowedContext::~BorrowedContext()
-{
-    if (m_context)
-        DeleteDC(m_context);
-}
+BorrowedContext::BorrowedContext() : m_context(kUntouched) {}
 
 HDC BorrowedContext::open(int width, int height)
 {
-    const std::size_t count = static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
-    m_memory.reset(static_cast<std::uint8_t*>(platform::allocateRaw(count * sizeof(Pixel))));
-    if (!m_memory)
-        return nullptr;
-    std::fill_n(reinterpret_cast<Pixel*>(m_memory.get()), count, kUntouched);
-    const auto stride = static_cast<std::ptrdiff_t>(width) * static_cast<std::ptrdiff_t>(sizeof(Pixel));
-    m_surface = {m_memory.get(), stride, width, height};
-    m_context = win32::createSurfaceContext(m_surface);
-    return m_context;
+    return m_context.open(width, height);
 }
 
-void BorrowedContext::close(PixelStore& target)
+Gdiplus::Status BorrowedContext::close(PixelStore& target)
 {
+    m_context.close();
+    win32::BlankPicture& picture = *m_context.picture();
+    const win32::RowSpan opened = picture.opened();
+    const auto surface = picture.open(opened);
     // The picture may have been turned in between.
-    const int width = std::min<int>(m_surface.width, target.width);
-    const int height = std::min<int>(m_surface.height, target.height);
-    std::vector<Pixel> mixed(static_cast<std::size_t>(width));
-    for (int y = 0; y < height; ++y) {
-        const std::span drawn(reinterpret_cast<const Pixel*>(m_surface.row(y)), static_cast<std::size_t>(width));
-        if (!hasDrawnPixels(drawn))
-            continue;
-        readRow(target.layout, target.row(y), mixed);
-        for (std::size_t x = 0; x < mixed.size(); ++x)
-            mixed[x] = isDrawn(drawn[x]) ? drawn[x] | kAlphaBits : mixed[x];
-        writeRow(target.layout, mixed, target.row(y));
+    const int width = std::min<int>(picture.width(), target.width);
+    const int end = static_cast<int>(std::min<std::int64_t>(opened.end, target.height));
+    for (int y = static_cast<int>(opened.first); y < end; ++y) {
+        const std::span row(reinterpret_cast<Pixel*>(surface->row(y)), static_cast<std::size_t>(width));
+        if (hasDrawnPixels(row))
+            copyDrawn(row, target, y);
     }
-    DeleteDC(m_context);
-    m_context = nullptr;
-    m_memory.reset();
+    return picture.hasFailed() ? Gdiplus::OutOfMemory : Gdiplus::Ok;
 }
 
 } // namespace vq::gdiplus

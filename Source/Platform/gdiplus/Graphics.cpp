@@ -83,7 +83,7 @@ HDC Graphics::GetHDC()
 
 VOID Graphics::ReleaseHDC(HDC hdc)
 {
-    setStatus(guarded([&] { return m_state && m_state->takeBack(hdc) ? Ok : InvalidParameter; }));
+    setStatus(guarded([&] { return m_state ? m_state->takeBack(hdc) : InvalidParameter; }));
 }
 
 Status Graphics::SetRenderingOrigin(INT x, INT y)

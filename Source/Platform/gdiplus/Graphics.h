@@ -50,6 +50,8 @@ public:
     /// A device context with the size of the picture that can only be written to: what is drawn there reaches the
     /// picture, opaque, with `ReleaseHDC`. Pixels that stay untouched keep colour and alpha; so does a pixel that is
     /// drawn in exactly the colour the context is prepared with, red 13, green 11, blue 12, as with GDI+.
+    /// Memory for the pixels is taken when they are first drawn on or read: when it cannot be had, those calls fail
+    /// and `ReleaseHDC` answers `OutOfMemory`, although the context is given back and what was drawn is copied.
     /// For a graphics on a device context, that context.
     HDC GetHDC();
     VOID ReleaseHDC(HDC hdc);

@@ -2,6 +2,7 @@
 #include "Platform/gdiplus/GraphicsState.h"
 
 #include "Platform/gdiplus/DrawingMemory.h"
+#include "Platform/win32/Surface.h"
 
 #include <algorithm>
 #include <functional>
@@ -79,14 +80,12 @@ HDC GraphicsState::lend()
     return m_lent;
 }
 
-bool GraphicsState::takeBack(HDC context)
+Gdiplus::Status GraphicsState::takeBack(HDC context)
 {
     if (!context || context != m_lent)
-        return false;
+        return Gdiplus::InvalidParameter;
     m_lent = nullptr;
-    if (m_image)
-        m_borrowed.close(*m_image);
-    return true;
+    return m_image ? m_borrowed.close(*m_image) : Gdiplus::Ok;
 }
 
 Resolution GraphicsState::resolution() const

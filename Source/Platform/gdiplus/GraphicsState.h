@@ -8,7 +8,7 @@
 #include "Platform/gdiplus/Enums.h"
 #include "Platform/gdiplus/PixelStore.h"
 #include "Platform/gdiplus/brushes/Shader.h"
-#include "Platform/win32/Surface.h"
+#include "Platform/win32/BlankContext.h"
 
 #include <memory>
 #include <optional>
@@ -43,25 +43,21 @@ struct GraphicsSettings
 };
 
 /// A device context over a picture that can only be written to. It is prepared with one colour; what has another colour
-/// afterwards was drawn.
+/// afterwards was drawn. Memory is taken when something is drawn or read, and kept for the next time: most borrowers
+/// only make a font.
 class BorrowedContext
 {
 public:
-    BorrowedContext() = default;
-    ~BorrowedContext();
-    BorrowedContext(const BorrowedContext&) = delete;
-    BorrowedContext& operator=(const BorrowedContext&) = delete;
+    BorrowedContext();
 
-    /// Null when memory cannot be had.
+    /// Null when memory for the context itself cannot be had.
     HDC open(int width, int height);
-    HDC handle() const { return m_context; }
-    /// Copies what was drawn, opaque, and ends the context.
-    void close(PixelStore& target);
+    /// Ends the context and copies what was drawn, opaque. `OutOfMemory` when something could not be drawn or read for
+    /// want of memory; the rest is copied.
+    Gdiplus::Status close(PixelStore& target);
 
 private:
-    HDC m_context = nullptr;
-    win32::Surface m_surface{};
-    platform::PixelMemory<std::uint8_t> m_memory;
+    win32::BlankContext m_context;
 };
 
 struct DrawingMemory;
@@ -102,8 +98,8 @@ public:
     /// A context that was handed out makes every call fail.
     bool isBusy() const { return m_lent != nullptr; }
     HDC lend();
-    /// False when `context` is not the one handed out.
-    bool takeBack(HDC context);
+    /// `InvalidParameter`, and nothing happens, when `context` is not the one handed out.
+    Gdiplus::Status takeBack(HDC context);
 
     Resolution resolution() const;
     /// Pixels per world unit across and down.

@@ -4,6 +4,7 @@
 /// @file
 /// Device contexts as objects. Internal to this folder.
 
+#include "Platform/win32/BlankPicture.h"
 #include "Platform/win32/GdiObjects.h"
 #include "Platform/win32/GdiTable.h"
 #include "Platform/win32/Surface.h"
@@ -15,14 +16,19 @@ namespace vq::win32 {
 /// Pixels to draw on, and what keeps them alive while someone does.
 struct Canvas
 {
-    Surface surface;
+    Surface surface; ///< without memory before a blank picture is opened
     std::shared_ptr<const GdiObject> owner;
+    std::shared_ptr<BlankPicture> blank;
+
+    /// To be called before rows are read or written, and without `gdiLock`, for this may take its time. False, with
+    /// ERROR_NOT_ENOUGH_MEMORY, when a blank picture gets no memory.
+    bool open(RowSpan rows);
 };
 
 class Context final : public GdiObject
 {
 public:
-    enum class Target { Memory, Screen, ForeignMemory };
+    enum class Target { Memory, Screen, ForeignMemory, BlankPicture };
 
     explicit Context(Target where) : target(where) {}
 
@@ -37,11 +43,15 @@ public:
     /// Lets other contexts select the bitmap that is selected here.
     void freeBitmap();
 
+    /// Lets go of all objects, for a context without a handle.
+    void deselectAll();
+
     /// Empty where there are no 32-bit pixels.
     std::optional<Canvas> canvas() const;
 
     const Target target;
     std::optional<Surface> foreignSurface;
+    std::shared_ptr<BlankPicture> blank;
     std::shared_ptr<GdiObject> bitmap;
     std::shared_ptr<GdiObject> font;
     std::shared_ptr<GdiObject> brush;
@@ -50,5 +60,9 @@ public:
 
 /// A context with the stock objects selected, and its handle. Null when memory runs out. The caller holds `gdiLock`.
 std::shared_ptr<Context> createContext(Context::Target target);
+
+/// Selects the stock objects into a context without a handle and gives it one. False when memory runs out. The caller
+/// holds `gdiLock`.
+bool openContext(const std::shared_ptr<Context>& context);
 
 } // namespace vq::win32

@@ -28,10 +28,25 @@ std::optional<Canvas> canvasOf(HDC context)
     return found ? found->canvas() : std::nullopt;
 }
 
-std::optional<Canvas> lockedCanvasOf(HDC context)
+/// The rows of a block, which may have a negative height.
+RowSpan rowsOf(const Block& block)
 {
-    const std::scoped_lock lock(gdiLock);
-    return canvasOf(context);
+    return {block.y, block.y + block.height};
+}
+
+bool isInside(const Surface& surface, int x, int y)
+{
+    return x >= 0 && y >= 0 && x < surface.width && y < surface.height;
+}
+
+/// For work on one pixel; empty where there is none.
+std::optional<Canvas> openCanvasAt(HDC context, int x, int y)
+{
+    std::unique_lock lock(gdiLock);
+    auto canvas = canvasOf(context);
+    lock.unlock();
+    const bool isOpen = canvas && isInside(canvas->surface, x, y) && canvas->open(rowsOf({x, y, 1, 1}));
+    return isOpen ? canvas : std::nullopt;
 }
 
 constexpr DWORD pixelOf(COLORREF colour)
@@ -55,19 +70,29 @@ std::optional<DWORD> pixelOf(const Brush& brush)
 BOOL copyBlock(HDC target, const Block& block, HDC source, int sourceX, int sourceY)
 {
     std::unique_lock lock(gdiLock);
-    const auto to = canvasOf(target);
-    const auto from = canvasOf(source);
+    auto to = canvasOf(target);
+    auto from = canvasOf(source);
     lock.unlock();
     if (!to || !from)
         return fail(ERROR_INVALID_HANDLE);
+    if (!to->open(rowsOf(block)) || !from->open(rowsOf({sourceX, sourceY, block.width, block.height})))
+        return FALSE;
     return copyPixels(to->surface, block, from->surface, sourceX, sourceY) || fail(ERROR_NOT_ENOUGH_MEMORY);
+}
+
+BOOL fillBlock(Canvas& canvas, const Block& block, DWORD pixel)
+{
+    if (!canvas.open(rowsOf(block)))
+        return FALSE;
+    fillPixels(canvas.surface, block, pixel);
+    return TRUE;
 }
 
 BOOL fillBlock(HDC target, const Block& block, DWORD operation)
 {
     std::unique_lock lock(gdiLock);
     const auto context = find<Context>(target);
-    const auto canvas = context ? context->canvas() : std::nullopt;
+    auto canvas = context ? context->canvas() : std::nullopt;
     if (!canvas)
         return fail(ERROR_INVALID_HANDLE);
     const auto brush = std::static_pointer_cast<Brush>(context->brush);
@@ -76,14 +101,7 @@ BOOL fillBlock(HDC target, const Block& block, DWORD operation)
     std::optional<DWORD> pixel = operation == WHITENESS ? kWhite : kBlack;
     if (operation == PATCOPY)
         pixel = pixelOf(*brush);
-    if (pixel)
-        fillPixels(canvas->surface, block, *pixel);
-    return TRUE;
-}
-
-bool isInside(const Surface& surface, int x, int y)
-{
-    return x >= 0 && y >= 0 && x < surface.width && y < surface.height;
+    return !pixel || fillBlock(*canvas, block, *pixel);
 }
 
 } // namespace
@@ -105,22 +123,21 @@ BOOL PatBlt(HDC target, int x, int y, int width, int height, DWORD operation)
 int FillRect(HDC context, const RECT* rect, HBRUSH brush)
 {
     std::unique_lock lock(gdiLock);
-    const auto canvas = canvasOf(context);
+    auto canvas = canvasOf(context);
     const auto found = find<Brush>(brush);
     lock.unlock();
     if (!rect || !canvas || !found)
         return fail(ERROR_INVALID_HANDLE);
     const Block block{rect->left, rect->top, std::int64_t{rect->right} - rect->left,
                       std::int64_t{rect->bottom} - rect->top};
-    if (const auto pixel = pixelOf(*found))
-        fillPixels(canvas->surface, block, *pixel);
-    return TRUE;
+    const auto pixel = pixelOf(*found);
+    return !pixel || fillBlock(*canvas, block, *pixel);
 }
 
 COLORREF SetPixel(HDC context, int x, int y, COLORREF colour)
 {
-    const auto canvas = lockedCanvasOf(context);
-    if (!canvas || !isInside(canvas->surface, x, y))
+    const auto canvas = openCanvasAt(context, x, y);
+    if (!canvas)
         return CLR_INVALID;
     fillPixels(canvas->surface, {x, y, 1, 1}, pixelOf(colour));
     return colour & 0x00FFFFFF;
@@ -128,8 +145,8 @@ COLORREF SetPixel(HDC context, int x, int y, COLORREF colour)
 
 COLORREF GetPixel(HDC context, int x, int y)
 {
-    const auto canvas = lockedCanvasOf(context);
-    if (!canvas || !isInside(canvas->surface, x, y))
+    const auto canvas = openCanvasAt(context, x, y);
+    if (!canvas)
         return CLR_INVALID;
     DWORD pixel = 0;
     std::memcpy(&pixel, canvas->surface.row(y) + std::ptrdiff_t{x} * 4, sizeof pixel);

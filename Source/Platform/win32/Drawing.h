@@ -3,6 +3,8 @@
 
 /// @file
 /// Drawing on device contexts. Colours are written with an alpha byte of 0, as all drawing of this interface does.
+/// A context that a graphics lent out takes the memory of its picture here: all calls fail, with
+/// ERROR_NOT_ENOUGH_MEMORY, when there is none.
 
 #include "Platform/win32/Gdi.h"
 

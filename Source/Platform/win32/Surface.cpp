@@ -5,14 +5,21 @@
 #include "Platform/win32/ContextObject.h"
 #include "Platform/win32/Errors.h"
 
+#include <new>
+
 namespace vq::win32 {
 
 std::optional<Surface> surfaceOf(HDC context)
 {
-    const std::scoped_lock lock(gdiLock);
+    std::unique_lock lock(gdiLock);
     const auto object = find<Context>(context);
-    const auto canvas = object ? object->canvas() : std::nullopt;
-    return canvas ? std::optional(canvas->surface) : std::nullopt;
+    auto canvas = object ? object->canvas() : std::nullopt;
+    lock.unlock();
+    if (!canvas)
+        return std::nullopt;
+    if (!canvas->open({0, canvas->surface.height}))
+        throw std::bad_alloc();
+    return canvas->surface;
 }
 
 std::optional<Surface> surfaceOf(HBITMAP bitmap)

@@ -23,7 +23,7 @@ struct Surface
 };
 
 /// What the context draws on: the selected bitmap, or the memory desktop for a context of the screen. Empty for a null
-/// or released context.
+/// or released context. Throws std::bad_alloc for a lent context whose picture gets no memory.
 VQPLATFORM_API std::optional<Surface> surfaceOf(HDC context);
 
 /// A context over memory that somebody else owns and keeps alive until `DeleteDC`.

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "unit/Platform/gdiplus/GdiplusSession.h"
 #include "parity/Encoders.h"
 #include "parity/Pixels.h"
+#include "unit/Platform/gdiplus/GdiplusSession.h"
 
 #include <limits>
 #include <memory>
@@ -53,9 +53,52 @@ TEST_F(MemoryLimits, CopiesWithoutMemoryAreNull)
     BitmapData data{};
     EXPECT_EQ(picture.bitmap.LockBits(nullptr, ImageLockModeRead, PixelFormat24bppRGB, &data), OutOfMemory);
     EXPECT_EQ(picture.bitmap.LockBits(nullptr, ImageLockModeRead, PixelFormat32bppARGB, &data), Ok);
-    EXPECT_FALSE(picture.graphics.GetHDC());
+}
+
+/// What a lent context fails with when there is no memory for its pixels.
+void expectNothingCanBeDrawn(HDC context)
+{
+    SetLastError(0);
+    EXPECT_FALSE(PatBlt(context, 0, 0, 1, 1, WHITENESS));
+    EXPECT_EQ(GetLastError(), ERROR_NOT_ENOUGH_MEMORY);
+    const RECT all{0, 0, 2, 2};
+    EXPECT_FALSE(FillRect(context, &all, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH))));
+    EXPECT_FALSE(BitBlt(context, 0, 0, 1, 1, context, 1, 1, SRCCOPY));
+    EXPECT_EQ(SetPixel(context, 0, 0, RGB(1, 2, 3)), CLR_INVALID);
+    EXPECT_EQ(GetPixel(context, 0, 0), CLR_INVALID);
+    Graphics graphics(context);
+    EXPECT_EQ(graphics.Clear(Color(0xFFFFFFFF)), OutOfMemory);
+}
+
+TEST_F(MemoryLimits, LentContextWithoutMemoryFailsWhenItIsDrawnOnAndWhenItIsGivenBack)
+{
+    TestPicture picture(2, 2, 0x40112233);
+    {
+        const ScopedAllocationFailure failure;
+        const HDC context = picture.graphics.GetHDC();
+        ASSERT_TRUE(context);
+        expectNothingCanBeDrawn(context);
+        picture.graphics.ReleaseHDC(context);
+        EXPECT_EQ(picture.graphics.GetLastStatus(), OutOfMemory);
+    }
+    EXPECT_EQ(picture.all(), Row(4, Argb{0x40112233}));
+    EXPECT_EQ(picture.graphics.Clear(Color(0xFF000000)), Ok) << "nothing is lent";
+    picture.graphics.ReleaseHDC(picture.graphics.GetHDC());
+    EXPECT_EQ(picture.graphics.GetLastStatus(), Ok) << "the failure belongs to one lending";
+}
+
+TEST_F(MemoryLimits, LentContextKeepsWhatCouldBeDrawn)
+{
+    TestPicture picture(2, 1, 0x40112233);
+    const HDC context = picture.graphics.GetHDC();
+    {
+        const ScopedAllocationFailure failure;
+        EXPECT_EQ(SetPixel(context, 0, 0, RGB(1, 2, 3)), CLR_INVALID);
+    }
+    EXPECT_EQ(SetPixel(context, 1, 0, RGB(1, 2, 3)), RGB(1, 2, 3));
+    picture.graphics.ReleaseHDC(context);
     EXPECT_EQ(picture.graphics.GetLastStatus(), OutOfMemory);
-    EXPECT_EQ(picture.graphics.Clear(Color()), Ok) << "nothing is lent";
+    EXPECT_EQ(picture.all(), row({0x40112233, 0xFF010203}));
 }
 
 TEST_F(MemoryLimits, DrawingOntoItselfWithoutMemoryDrawsNothing)
