@@ -15,26 +15,33 @@ bool isDrawn(Pixel pixel)
 }
 
 /// All pixels are looked at, without a branch: that is one pass at the speed of memory.
-bool hasDrawnPixels(std::span<const Pixel> row)
+Pixel countDrawn(std::span<const Pixel> row)
 {
-    Pixel differences = 0;
+    Pixel count = 0;
     for (const Pixel pixel : row)
-        differences |= (pixel ^ kUntouched) & ~kAlphaBits;
-    return differences != 0;
+        count += isDrawn(pixel);
+    return count;
 }
 
-/// Copies runs of drawn pixels, so that the others keep every bit. The row becomes opaque where it was drawn on.
+/// Copies the pixels of a row from `x` on. They become opaque here, too.
+void copyRun(std::span<Pixel> run, PixelStore& target, int x, int y)
+{
+    for (Pixel& pixel : run)
+        pixel |= kAlphaBits;
+    writeRow(target.layout, run, target.at(x, y));
+}
+
+/// Copies runs of drawn pixels, so that the others keep every bit.
 void copyDrawn(std::span<Pixel> row, PixelStore& target, int y)
 {
-    auto end = row.begin();
-    while (true) {
+    const Pixel count = countDrawn(row);
+    if (count == row.size())
+        return copyRun(row, target, 0, y);
+    auto end = count == 0 ? row.end() : row.begin();
+    while (end != row.end()) {
         const auto first = std::find_if(end, row.end(), isDrawn);
-        if (first == row.end())
-            return;
         end = std::find_if_not(first, row.end(), isDrawn);
-        for (Pixel& pixel : std::span(first, end))
-            pixel |= kAlphaBits;
-        writeRow(target.layout, {first, end}, target.at(static_cast<int>(first - row.begin()), y));
+        copyRun({first, end}, target, static_cast<int>(first - row.begin()), y);
     }
 }
 
@@ -58,8 +65,7 @@ Gdiplus::Status BorrowedContext::close(PixelStore& target)
     const int end = static_cast<int>(std::min<std::int64_t>(opened.end, target.height));
     for (int y = static_cast<int>(opened.first); y < end; ++y) {
         const std::span row(reinterpret_cast<Pixel*>(surface->row(y)), static_cast<std::size_t>(width));
-        if (hasDrawnPixels(row))
-            copyDrawn(row, target, y);
+        copyDrawn(row, target, y);
     }
     return picture.hasFailed() ? Gdiplus::OutOfMemory : Gdiplus::Ok;
 }
