@@ -16,7 +16,7 @@ void RunSet::paint(const Painter& painter)
             whole.end = std::max(whole.end, m_runs[i].end);
         painter.run(whole.first, whole.y, whole.end - whole.first);
     }
-    m_runs.clear();
+    clear();
 }
 
 } // namespace vq::gdiplus

@@ -11,6 +11,9 @@ namespace vq::gdiplus {
 class RunSet
 {
 public:
+    /// Forgets what was added.
+    void clear() { m_runs.clear(); }
+
     /// Pixels first .. end - 1 of a row; at least one, all inside the surface.
     void add(int y, int first, int end) { m_runs.push_back({y, first, end}); }
 

@@ -80,6 +80,7 @@ void ShapeRenderer::strokeThin(const Painter& painter, const Polylines& lines, c
         strokeThinNow(painter, lines, style);
         return;
     }
+    m_runs.clear(); // what a shape left for which memory ran out
     const auto add = [this](int y, int first, int end) { m_runs.add(y, first, end); };
     drawThin(lines, style.dashes, view.width, view.height, add);
     m_outline.clear();
