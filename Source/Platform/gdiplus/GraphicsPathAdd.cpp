@@ -3,17 +3,9 @@
 
 namespace Gdiplus {
 
+using vq::gdiplus::hasArea;
 using vq::gdiplus::PathPoints;
 using vq::gdiplus::toFloat;
-
-namespace {
-
-bool hasArea(const RectF& rect)
-{
-    return rect.Width > 0 && rect.Height > 0;
-}
-
-} // namespace
 
 template <typename PointType, typename Add>
 Status GraphicsPath::addPoints(const PointType* points, INT count, INT least, Add add)

@@ -10,6 +10,7 @@ using vq::gdiplus::Canvas;
 using vq::gdiplus::CurvePrecision;
 using vq::gdiplus::FillRule;
 using vq::gdiplus::GraphicsState;
+using vq::gdiplus::hasArea;
 using vq::gdiplus::Painter;
 using vq::gdiplus::PathPoints;
 using vq::gdiplus::Polylines;
@@ -17,11 +18,6 @@ using vq::gdiplus::toFloat;
 using vq::gdiplus::ToPixels;
 
 namespace {
-
-bool hasArea(const RectF& rect)
-{
-    return rect.Width > 0 && rect.Height > 0;
-}
 
 FillRule ruleOf(FillMode mode)
 {

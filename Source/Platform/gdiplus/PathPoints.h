@@ -23,6 +23,12 @@ struct ToPixels
     }
 };
 
+/// Whether a box is one that arcs, pies and rectangles can be added in.
+inline bool hasArea(const Gdiplus::RectF& box)
+{
+    return box.Width > 0 && box.Height > 0;
+}
+
 /// Points and what each of them is, as GDI+ keeps a path. What is added joins the figure that is open, if one is.
 class PathPoints
 {
