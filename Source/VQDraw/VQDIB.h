@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 
 /// A 32-bit raster image that can be addressed pixel by pixel and drawn on through GDI+ at the same time.
 ///
@@ -125,8 +126,132 @@ public:
     /// 0, all others are kept exactly. A value that names no turn only clears the former. When memory cannot be had
     /// the image stays as it was.
     void Rotate(Gdiplus::RotateFlipType type);
+    /// @}
+
+    /// @name Blocks of pixels
+    /// The w x h block at (sx, sy) of another image goes to (dx, dy) of this one, cut to both images. What a negative
+    /// source position cuts off shortens the block, which stays at its destination, deliberately; a negative
+    /// destination cuts off the block's own left and top. Without sizes the whole source goes. A null or empty source,
+    /// and a block of which nothing is left, change nothing. All block transfers in the process exclude each other.
+    ///
+    /// Source and destination may be one image. Rows are done from the top, each as if its source had been copied aside
+    /// first: a block that moves down into itself repeats its first rows, deliberately.
+    /// @{
+    /// Replaces pixels, alpha included.
+    void Copy(CVQDIB& source);
+    void Copy(CVQDIB* source);
+    void Copy(CVQDIB& source, LONG x, LONG y);
+    void Copy(CVQDIB* source, LONG x, LONG y);
+    void Copy(CVQDIB& source, LONG dx, LONG dy, LONG sx, LONG sy, LONG w, LONG h);
+    void Copy(CVQDIB* source, LONG dx, LONG dy, LONG sx, LONG sy, LONG w, LONG h);
+
+    /// Blends by the source's alpha a: a colour becomes (source * a + old * (256 - a)) / 256, rounded down, so an
+    /// opaque source stops one step short of its own colour (white over black is 254). Alphas add up to 255 at most.
+    void Paste(CVQDIB& source);
+    void Paste(CVQDIB* source);
+    void Paste(CVQDIB& source, LONG x, LONG y);
+    void Paste(CVQDIB* source, LONG x, LONG y);
+    void Paste(CVQDIB& source, LONG dx, LONG dy, LONG sx, LONG sy, LONG w, LONG h);
+    void Paste(CVQDIB* source, LONG dx, LONG dy, LONG sx, LONG sy, LONG w, LONG h);
+
+    /// Draws the whole source through GDI+, scaled into a rectangle or over this whole image, with the interpolation
+    /// mode that the graphics has. A null or empty source draws nothing. Afterwards the graphics has its default
+    /// compositing quality, after `CopyWithScale` also the mode source-over.
+    void CopyWithScale(CVQDIB* source);
+    void CopyWithScale(CVQDIB* source, LONG x, LONG y, LONG w, LONG h);
+    /// Composites with high quality, which blends in linear light.
+    void PasteWithScale(CVQDIB* source);
+    void PasteWithScale(CVQDIB* source, LONG x, LONG y, LONG w, LONG h);
+    void PasteWithScaleFloat(CVQDIB* source, float x, float y, float w, float h);
+    /// @}
+
+    /// @name Blending whole images
+    /// A colour becomes (new * weight + old * (256 - weight)) / 256, rounded down; the weight is added to alpha, and a
+    /// sum of 256 or more is 255. A weight outside 0 .. 255 goes through the same formula in 32 bits, of which the low
+    /// 8 bits are kept; of a negative alpha sum, too. A null image or one of another width or height changes nothing.
+    /// @{
+    /// Each pixel by the source's alpha.
+    void Blend(const CVQDIB& source);
+    void Blend(const CVQDIB* source);
+    /// All pixels by one weight; the source's alpha does not matter.
+    void Blend(const CVQDIB& source, LONG weight);
+    void Blend(const CVQDIB* source, LONG weight);
+    /// Towards one colour, whose channels are taken as given.
+    void Blend(LONG r, LONG g, LONG b, LONG weight);
+    /// Only the low 8 bits of the weight count; the bits of the colour's top byte are added to them by OR.
+    void Blend(COLORREF colour, LONG weight);
+    /// @}
+
+    /// @name Combining whole images
+    /// Channel by channel with the pixel of the same number in the other image, which may be this one. A null or empty
+    /// source, or one with fewer pixels than this image, changes nothing; of a larger one, or one of another shape, the
+    /// first pixels count. Products are divided by 256, not 255: white times white is 254.
+    /// @{
+    /// Sum of each of the four channels, 255 at most.
+    void Add(CVQDIB& source);
+    void Add(CVQDIB* source);
+    /// Adds the image to itself.
+    void Add();
+    /// Difference of each of the four channels, 0 at least: an opaque source clears alpha, deliberately.
+    void Subtract(CVQDIB& source);
+    void Subtract(CVQDIB* source);
+    /// Product of each of the four channels.
+    void Multiply(CVQDIB& source);
+    void Multiply(CVQDIB* source);
+    /// Multiplies the image by itself.
+    void Multiply();
+    /// 255 - (255 - old) * (255 - source) / 256; alpha stays. Black on black is 1.
+    void Screen(CVQDIB& source);
+    void Screen(CVQDIB* source);
+    /// The larger of the old channel and the source's times (level + 1) / 256, of which the low 8 bits count; alpha
+    /// stays. 255 takes the source as it is, 0 changes nothing.
+    void Lighten(CVQDIB& source, LONG level);
+    void Lighten(CVQDIB* source, LONG level);
+    /// Where the source's channel is below the old one, both times (level + 1) / 256 of which the low 8 bits count, the
+    /// old one moves towards it by (level + 1) / 256 of their distance; alpha stays. 255 gives the smaller of both.
+    void Darken(CVQDIB& source, LONG level);
+    void Darken(CVQDIB* source, LONG level);
+    /// Distance of the two colours, channel by channel; alpha stays.
+    void Difference(CVQDIB& source);
+    void Difference(CVQDIB* source);
+    /// @}
+
+    /// @name Tones
+    /// Alpha stays, except where a member says otherwise.
+    /// @{
+    /// Subtracts `level` from red, green and blue, 0 at least. A negative level brightens and wraps round: the low 8
+    /// bits of the sum are kept, and a sum beyond 32 bits is 0.
+    void Darken(LONG level);
+    void Invert();
+    /// Grey of weight 0.587 green, 0.114 blue and 0.299 red, summed in this order in single precision, rounded down.
+    void ConvertToGray();
+    /// Grey of the plain mean of the three colours, rounded down, in a rectangle that is normalised and cut to the
+    /// image; both edges belong to it.
+    void ConvertToGray(CRect rect);
+    /// Clears the low n bits of all four channels, alpha too; of n the low 3 bits count, so 8 changes nothing.
+    void Quantize(LONG n);
+    /// Stretches the blue channel to the range 0 .. 255 and makes it the grey of each pixel; green and red are lost,
+    /// deliberately. An image of one blue value stays as it is.
+    void Equalize();
     /// Leaves the image as it is, deliberately.
     void Emboss();
+    /// @}
+
+    /// @name Colours and patterns
+    /// @{
+    /// Blends `to`, a GDI colour `0x00BBGGRR`, into every opaque pixel whose colour is `from`, which is given as
+    /// `0x00RRGGBB`, deliberately. The low 8 bits of alpha are the weight, together with the bits of `to`'s top byte:
+    /// 255 stops one step short of the colour. @return 1; 0 when the image is empty.
+    int ExchangeColor(const COLORREF& from, const COLORREF& to, LONG alpha);
+    /// As above for pairs, in one pass: a pixel is compared as it was before. Pairs that match it blend in their order,
+    /// so a colour given twice blends twice. @return 1; 0 when the image is empty or the arrays differ in size.
+    int ExchangeColors(const CArray<COLORREF, const COLORREF&>& from, const CArray<COLORREF, const COLORREF&>& to,
+                       LONG alpha);
+    /// Blends a random pattern of clouds into the image, by halving steps from 256 to 2 pixels; the colour goes into
+    /// the first pixel. Colour and weight are taken as given. Only blue feeds the pattern; the image's blue is its
+    /// start. Randomness is the C library's `rand()`, which the host seeds: the same seed and image give the same
+    /// picture.
+    void BuildFractalMap(LONG r, LONG g, LONG b, LONG alpha);
     /// @}
 
     /// @name GDI+ for the process
@@ -192,9 +317,27 @@ public:
     static void EnableSIMD();
     static void DisableSIMD();
 
-    using ImageRoutine = void (*)(CVQDIB& image);
+    using CopyRoutine = void(CVQDIB& dst, CVQDIB& src, LONG dx, LONG dy, LONG sx, LONG sy, LONG w, LONG h);
+    using PasteRoutine = void(CVQDIB* dst, CVQDIB* src, LONG dx, LONG dy, LONG sx, LONG sy, LONG w, LONG h);
+    using ImageRoutine = void(CVQDIB& image);
+    using LevelRoutine = void(CVQDIB& image, LONG level);
+    using PairRoutine = void(CVQDIB& dst, CVQDIB& src);
+    using PairLevelRoutine = void(CVQDIB& dst, CVQDIB& src, LONG level);
 
-    static ImageRoutine pfEmboss;
+    static CopyRoutine* pfCopy;
+    static PasteRoutine* pfPaste;
+    static LevelRoutine* pfQuantize;
+    static ImageRoutine* pfConvertToGray;
+    static ImageRoutine* pfEqualize;
+    static PairRoutine* pfMultiply;
+    static PairLevelRoutine* pfLighten;
+    static PairLevelRoutine* pfDarken;
+    static PairRoutine* pfDifference;
+    static ImageRoutine* pfInvert;
+    static PairRoutine* pfScreen;
+    static PairRoutine* pfAdd;
+    static PairRoutine* pfSubtract;
+    static ImageRoutine* pfEmboss;
     /// @}
 
 protected:
@@ -227,8 +370,28 @@ private:
     bool HasRow(LONG y) const { return y >= 0 && y < m_iHeight; }
     CRect ClipInclusive(CRect rect) const;
 
-    static void EmbossDefault(CVQDIB& image);
-    static void EmbossSSE2(CVQDIB& image);
+    static int RectangularRegionClip(CVQDIB& dst, LONG& dx, LONG& dy, CVQDIB& src, LONG& sx, LONG& sy, LONG& w,
+                                     LONG& h);
+    std::span<ULONG> Pixels() const { return {m_pImageBuffer, static_cast<std::size_t>(m_iPixelCount)}; }
+    bool HasSizeOf(const CVQDIB& other) const;
+    int ExchangePairs(const COLORREF* from, const COLORREF* to, std::size_t count, LONG alpha);
+
+    // The portable routines do the work; those named after a processor call them, so that no result depends on it.
+    // `MultiplySSE3` does nothing and stands in no slot.
+    static CopyRoutine CopyDefault, CopySSE2;
+    static PasteRoutine PasteDefault, PasteSSE2;
+    static LevelRoutine QuantizeDefault, QuantizeSSE2;
+    static ImageRoutine ConvertToGrayDefault, ConvertToGraySSE2, ConvertToGraySSSE3;
+    static ImageRoutine EqualizeDefault, EqualizeSSE2;
+    static PairRoutine MultiplyDefault, MultiplySSE2, MultiplySSE3;
+    static PairLevelRoutine LightenDefault, LightenSSE2;
+    static PairLevelRoutine DarkenDefault, DarkenSSE2;
+    static PairRoutine DifferenceDefault, DifferenceSSE2;
+    static ImageRoutine InvertDefault, InvertSSE2;
+    static PairRoutine ScreenDefault, ScreenSSE2;
+    static PairRoutine AddDefault, AddSSE2;
+    static PairRoutine SubtractDefault, SubtractSSE2;
+    static ImageRoutine EmbossDefault, EmbossSSE2;
 
     ULONG* m_pImageBuffer;
     Gdiplus::Bitmap* m_pBitmap;

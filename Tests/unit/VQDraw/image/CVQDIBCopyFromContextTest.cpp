@@ -116,7 +116,7 @@ TEST(CVQDIBCopyFromContext, ANullContextChangesNothing)
     fillRandom(image, 1);
     const Pixels before = pixels(image);
 
-    image.Copy(nullptr, 0, 0, 0, 0, 4, 3);
+    image.Copy(HDC{nullptr}, 0, 0, 0, 0, 4, 3);
 
     EXPECT_TRUE(shows(image, before));
 }

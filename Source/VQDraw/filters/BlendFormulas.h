@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+/// @file
+/// Two pictures combined channel by channel: the formulas first, then the one loop that applies them. Standard library
+/// only.
+
+#include "VQDraw/image/PixelBlocks.h"
+#include "VQDraw/image/PixelFormulas.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <type_traits>
+
+namespace vq {
+
+using Channel = std::uint8_t;
+
+// d is the image that changes, s the one that is read. Products are divided by 256, not 255, so white times white is
+// 254: hosts hold pictures made that way. No sum leaves a byte: that is worth a factor of two and more.
+inline constexpr auto add = [](Channel d, Channel s) { return d + std::min<Channel>(s, 255 - d); };
+inline constexpr auto subtract = [](Channel d, Channel s) { return d - std::min(d, s); };
+inline constexpr auto multiply = [](Channel d, Channel s) { return d * s >> 8; };
+inline constexpr auto screen = [](Channel d, Channel s) { return 255 - ((255 - d) * (255 - s) >> 8); };
+inline constexpr auto lighten = [](Channel d, Channel s) { return std::max(d, s); };
+inline constexpr auto darken = [](Channel d, Channel s) { return std::min(d, s); };
+inline constexpr auto difference = [](Channel d, Channel s) { return std::max(d, s) - std::min(d, s); };
+
+/// A channel times `factor`, divided by 256 and cut to a byte. Only the low 16 bits of the factor reach that byte.
+inline constexpr Channel scaled(Channel channel, std::uint16_t factor)
+{
+    return static_cast<Channel>(static_cast<std::uint16_t>(channel * 1u * factor) >> 8);
+}
+
+/// The larger of d and the scaled s, which was cut to a byte before.
+inline constexpr auto lightenBy(std::uint16_t factor)
+{
+    return [factor](Channel d, Channel s) { return std::max(d, scaled(s, factor)); };
+}
+
+/// Where s is below d, both scaled and cut to a byte, d moves towards s by factor / 256.
+inline constexpr auto darkenBy(std::uint16_t factor)
+{
+    return [factor](Channel d, Channel s) {
+        const auto moved = static_cast<std::uint16_t>((0u + s - d) * factor + d * 256u);
+        return scaled(s, factor) < scaled(d, factor) ? static_cast<Channel>(moved >> 8) : d;
+    };
+}
+
+/// Applies a channel formula to a row. Bits set in `kept` stay as they are in dst.
+/// dst and src have the same length, and are the same row or do not overlap.
+template <Pixel kept, typename Word, typename Formula>
+void combineRow(std::span<Word> dst, std::type_identity_t<std::span<const Word>> src, Formula formula)
+{
+    static_assert(sizeof(Word) == sizeof(Pixel));
+    forEachBlock(dst.size(), [&](std::size_t begin, auto count) {
+        std::array<Word, kBlockPixels> result; // all four bytes computed, kept ones put back: no test inside the loop
+        const auto* d = reinterpret_cast<const Channel*>(&dst[begin]);
+        const auto* s = reinterpret_cast<const Channel*>(&src[begin]);
+        auto* r = reinterpret_cast<Channel*>(result.data());
+        for (std::size_t i = 0; i < 4 * count; ++i)
+            r[i] = static_cast<Channel>(formula(d[i], s[i]));
+        Word* words = &dst[begin];
+        for (std::size_t i = 0; i < count; ++i)
+            words[i] = (words[i] & kept) | (result[i] & ~kept);
+    });
+}
+
+/// Applies a channel formula to a row with the channels of one pixel for s.
+template <typename Word, typename Formula>
+void combineRowWith(std::span<Word> dst, Pixel constant, Formula formula)
+{
+    std::array<Word, kBlockPixels> source;
+    source.fill(constant);
+    forEachBlock(dst.size(), [&](std::size_t begin, auto count) {
+        combineRow<0>(dst.subspan(begin, count), std::span<const Word>(source).first(count), formula);
+    });
+}
+
+} // namespace vq
