@@ -128,8 +128,8 @@ void pasteBlock(Word* d, const Word* s, std::size_t count)
     for (std::size_t i = 0; i < count; ++i)
         weights.setBoth(i, s[i] >> 24);
     mixBlock(mixed, d, s, weights, count);
-    for (std::size_t i = 0; i < count; ++i)
-        d[i] = (mixed.words[i] & kColourBits) | limitedAlphaSum(d[i] >> 24, s[i] >> 24);
+    for (std::size_t i = 0; i < count; ++i) // no longer reads s, which may overlap d
+        d[i] = (mixed.words[i] & kColourBits) | limitedAlphaSum(d[i] >> 24, weights.words[i] & 0xFF);
 }
 
 /// `pasteBlock` along a row. Rows that overlap: dst does not start to the right of src.

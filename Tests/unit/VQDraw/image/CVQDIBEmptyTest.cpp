@@ -73,6 +73,22 @@ TEST(CVQDIBEmpty, GeometryDoesNothing)
         expectNoOperation([&](CVQDIB& image) { image.Rotate(static_cast<Gdiplus::RotateFlipType>(type)); });
 }
 
+TEST(CVQDIBEmpty, TonesAndBlendsDoNothing)
+{
+    expectNoOperation([](CVQDIB& image) { image.Invert(); });
+    expectNoOperation([](CVQDIB& image) { image.ConvertToGray(); });
+    expectNoOperation([](CVQDIB& image) { image.ConvertToGray(CRect(-5, -5, 5, 5)); });
+    expectNoOperation([](CVQDIB& image) { image.Quantize(3); });
+    expectNoOperation([](CVQDIB& image) { image.Equalize(); });
+    expectNoOperation([](CVQDIB& image) { image.Darken(40); });
+    expectNoOperation([](CVQDIB& image) { image.Darken(-40); });
+    expectNoOperation([](CVQDIB& image) { image.Add(); });
+    expectNoOperation([](CVQDIB& image) { image.Multiply(); });
+    expectNoOperation([](CVQDIB& image) { image.Blend(COLORREF{5}, 100); });
+    expectNoOperation([](CVQDIB& image) { image.BuildFractalMap(1, 2, 3, 4); });
+    expectNoOperation([](CVQDIB& image) { EXPECT_EQ(image.ExchangeColor(1, 2, 3), 0); });
+}
+
 TEST(CVQDIBEmpty, IsNotShownAnywhere)
 {
     MemoryContext target(4, 3, 0x00123456);

@@ -97,9 +97,22 @@ TEST(CVQDIBLocks, TakingABitmapWaitsForTheLock)
     EXPECT_TRUE(waitsForTheLock([&] { CVQDIB image(&bitmap); }));
 }
 
+TEST(CVQDIBLocks, BlockTransfersAndScaledOnesWaitForTheLock)
+{
+    CVQDIB image(2, 2);
+    CVQDIB source(2, 2);
+
+    EXPECT_TRUE(waitsForTheLock([&] { image.Copy(source); }));
+    EXPECT_TRUE(waitsForTheLock([&] { image.Paste(source); }));
+    EXPECT_TRUE(waitsForTheLock([&] { image.CopyWithScale(&source); }));
+    EXPECT_TRUE(waitsForTheLock([&] { image.PasteWithScale(&source); }));
+    EXPECT_TRUE(waitsForTheLock([&] { image.PasteWithScaleFloat(&source, 0, 0, 2, 2); }));
+}
+
 TEST(CVQDIBLocks, PixelOperationsTakeNoLock)
 {
     CVQDIB image(3, 2);
+    CVQDIB source(3, 2);
 
     EXPECT_TRUE(finishesWhileLocked(std::chrono::seconds(30), [&] {
         image.Clear(COLORREF{0x030201});
@@ -108,6 +121,10 @@ TEST(CVQDIBLocks, PixelOperationsTakeNoLock)
         image.ExchangeRB();
         image.FlipVertical();
         image.Emboss();
+        image.Blend(source);
+        image.Blend(COLORREF{0x030201}, 100);
+        image.Add(source);
+        image.ConvertToGray();
     }));
 }
 
