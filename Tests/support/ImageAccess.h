@@ -40,4 +40,7 @@ struct VQTestAccess
     static EmbossRoutine& embossSlot() { return CVQDIB::pfEmboss; }
     static EmbossRoutine embossDefault() { return &CVQDIB::EmbossDefault; }
     static EmbossRoutine embossSse2() { return &CVQDIB::EmbossSSE2; }
+
+    template <typename Image>
+    struct PixelRoutines; // the routines behind the other slots, for those who compare them
 };
