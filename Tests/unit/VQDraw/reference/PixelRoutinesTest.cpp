@@ -67,7 +67,7 @@ std::vector<Operation> everyOperation()
 }
 
 INSTANTIATE_TEST_SUITE_P(Every, PixelRoutine, testing::ValuesIn(everyOperation()),
-                         [](const testing::TestParamInfo<Operation>& info) { return info.param.name; });
+                         [](const testing::TestParamInfo<Operation>& each) { return each.param.name; });
 
 } // namespace
 } // namespace vq::reference
