@@ -56,7 +56,7 @@ TEST(CVQDIBScreenEdges, BlackOnBlackIsOneAndWhiteStaysWhite)
 {
     EXPECT_EQ(combined({0x40000000, 0x40FF00FF, 0x400055AA}, {0xFF000000, 0x00AABBFF, 0xFFFFFFFF},
                        [](CVQDIB& i, CVQDIB& s) { i.Screen(s); }),
-              (Pixels{0x40010101, 0x40FFBBFF, 0x40FFFFFF}));
+              (Pixels{0x40010101, 0x40FFBCFF, 0x40FFFFFF}));
 }
 
 TEST(CVQDIBDifferenceEdges, IsAbsoluteAndKeepsAlpha)

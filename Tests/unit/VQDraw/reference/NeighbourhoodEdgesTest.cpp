@@ -154,7 +154,7 @@ TEST(CVQDIBSmooth2x2Edges, AveragesAlphaAndWrapsToTheRowAbove)
 
     EXPECT_TRUE(shows(image, {0x00000000, 0x00000000, 0x40000000,    //
                               0x80000000, 0x20000000, 0x10000000,    //
-                              0x20000000, 0x50000000, 0x00000000})); // of the last pixel only blue counts
+                              0x30000000, 0x50000000, 0x00000000})); // of the last pixel only blue counts
 }
 
 TEST(CVQDIBSmooth2x2Edges, TheLastPixelSmoothsItsBlueOnly)
