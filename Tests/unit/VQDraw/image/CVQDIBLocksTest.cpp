@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Platform.h"
 #include "support/ImageAccess.h"
+#include "support/Locks.h"
 #include "support/Pictures.h"
 
 #include <atomic>
@@ -55,29 +56,6 @@ TEST(CVQDIBLocks, EightThreadsMakeAndDropImagesAtOnce)
         thread.join();
 
     EXPECT_EQ(clean.load(), kThreads);
-}
-
-/// Runs `work` in another thread while this one holds the images' lock; true when it is done within `patience`.
-bool finishesWhileLocked(std::chrono::milliseconds patience, const std::function<void()>& work)
-{
-    std::atomic<bool> done{false};
-    Access::lock().Lock();
-    std::thread worker([&] {
-        work();
-        done = true;
-    });
-    const auto end = std::chrono::steady_clock::now() + patience;
-    while (!done && std::chrono::steady_clock::now() < end)
-        std::this_thread::sleep_for(std::chrono::milliseconds(1));
-    const bool finished = done;
-    Access::lock().Unlock();
-    worker.join();
-    return finished;
-}
-
-bool waitsForTheLock(const std::function<void()>& work)
-{
-    return !finishesWhileLocked(std::chrono::milliseconds(50), work);
 }
 
 TEST(CVQDIBLocks, CreationAndDestructionWaitForTheLock)

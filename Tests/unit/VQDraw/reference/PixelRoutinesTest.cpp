@@ -3,6 +3,7 @@
 #include "Operations.h"
 
 #include <iterator>
+#include <utility>
 
 namespace vq::reference {
 namespace {
@@ -55,6 +56,15 @@ TEST_P(PixelRoutine, EqualsItsReferenceOnEveryKindOfContent)
             trial.sourceContent = sourceContent;
             ASSERT_TRUE(agrees(GetParam(), trial));
         }
+}
+
+/// Larger than the blocks and strips in which a fast routine may work.
+TEST_P(PixelRoutine, EqualsItsReferenceOnLargePictures)
+{
+    std::uint32_t seed = 5'000'000;
+    for (const auto& [width, height] : {std::pair{1030, 37}, {515, 70}, {3, 900}, {4100, 5}, {256, 257}})
+        for (int round = 0; round < 3; ++round)
+            ASSERT_TRUE(agrees(GetParam(), randomTrial(GetParam(), seed++, width, height)));
 }
 
 std::vector<Operation> everyOperation()

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "support/ImageAccess.h"
+
+#include <atomic>
+#include <chrono>
+#include <functional>
+#include <thread>
+
+namespace vq::test {
+
+/// Runs `work` in another thread while this one holds the images' lock; true when it is done within `patience`.
+inline bool finishesWhileLocked(std::chrono::milliseconds patience, const std::function<void()>& work)
+{
+    std::atomic<bool> done{false};
+    VQTestAccess::lock().Lock();
+    std::thread worker([&] {
+        work();
+        done = true;
+    });
+    const auto end = std::chrono::steady_clock::now() + patience;
+    while (!done && std::chrono::steady_clock::now() < end)
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    const bool finished = done;
+    VQTestAccess::lock().Unlock();
+    worker.join();
+    return finished;
+}
+
+inline bool waitsForTheLock(const std::function<void()>& work)
+{
+    return !finishesWhileLocked(std::chrono::milliseconds(50), work);
+}
+
+} // namespace vq::test
