@@ -156,8 +156,8 @@ Trial randomTrial(const Operation& operation, std::uint32_t seed, Number width, 
     };
     Trial trial;
     trial.seed = seed;
-    trial.width = trial.sourceWidth = width;
-    trial.height = trial.sourceHeight = height;
+    trial.width = width;
+    trial.height = height;
     trial.simd = dice.oneIn(2);
     trial.way = static_cast<std::size_t>(dice.below(static_cast<Number>(operation.ways.size())));
     trial.content = anyContent();

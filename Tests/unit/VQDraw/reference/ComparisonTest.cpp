@@ -17,8 +17,8 @@ Operation nothing(std::function<void(Call&)> run)
 Trial ofSize(Number width, Number height)
 {
     Trial trial;
-    trial.width = trial.sourceWidth = width;
-    trial.height = trial.sourceHeight = height;
+    trial.width = width;
+    trial.height = height;
     trial.arguments[0] = 12345;
     return trial;
 }
@@ -50,7 +50,10 @@ TEST(Comparison, SeesAChangedSource)
     Operation operation = nothing([](Call& c) { c.source(1, 1) ^= 0x80; });
     operation.readsSource = true;
 
-    EXPECT_THAT(fault(operation, ofSize(2, 2)), HasSubstr("pixel (1, 1) of the source"));
+    Trial trial = ofSize(2, 2);
+    trial.sourceWidth = trial.sourceHeight = 2;
+
+    EXPECT_THAT(fault(operation, trial), HasSubstr("pixel (1, 1) of the source"));
 }
 
 TEST(Comparison, SeesAWrongResult)

@@ -114,21 +114,44 @@ TEST(CVQDIBSmoothEdges, WrapsRoundAllEdges)
                               o, o, 0, o}));
 }
 
+void expectSmoothed(int width, int height, reference::Content content, ULONG radius)
+{
+    reference::Picture expected = reference::picture(width, height, content, radius);
+    CVQDIB image(width, height);
+    paint(image, Pixels(expected.pixels.begin(), expected.pixels.end()));
+    reference::smooth(expected, radius);
+
+    image.Smooth(radius);
+
+    ASSERT_TRUE(shows(image, Pixels(expected.pixels.begin(), expected.pixels.end())))
+        << width << " x " << height << ", radius " << radius;
+}
+
 TEST(CVQDIBSmoothEdges, EqualsThePlainSumUpToTheRadiusWhereFloatsEnd)
 {
-    using namespace reference;
-    for (const auto& [width, height] : {std::pair{1, 1}, {3, 2}, {17, 5}, {16, 16}})
-        for (const Word radius : {15u, 16u, 31u, 63u, 64u, 100u, 126u, 127u}) {
-            Picture expected = picture(width, height, radius == 127 ? Content::Extremes : Content::Random, radius);
-            CVQDIB image(width, height);
-            paint(image, Pixels(expected.pixels.begin(), expected.pixels.end()));
-            smooth(expected, radius);
-
-            image.Smooth(radius);
-
-            ASSERT_TRUE(shows(image, Pixels(expected.pixels.begin(), expected.pixels.end())))
-                << width << " x " << height << ", radius " << radius;
+    for (const auto& [width, height] : {std::pair{1, 1}, {3, 2}, {9, 5}})
+        for (const ULONG radius : {12u, 15u, 16u, 31u, 64u, 127u}) {
+            expectSmoothed(width, height, reference::Content::Random, radius);
+            expectSmoothed(width, height, reference::Content::Extremes, radius);
         }
+    expectSmoothed(258, 1, reference::Content::Extremes, 127);
+    expectSmoothed(1, 90, reference::Content::Random, 44);
+    expectSmoothed(30, 30, reference::Content::Random, 20);
+}
+
+TEST(CVQDIBSmoothEdges, AWhiteImageStaysWithinOneStepOfWhiteAtEveryRadius)
+{
+    for (ULONG radius = 1; radius <= 127; ++radius)
+        expectSmoothed(1, 2, reference::Content::AllEqual, radius);
+    for (const ULONG radius : {1u, 2u, 3u, 7u, 50u, 126u, 127u}) {
+        CVQDIB image(3, 3);
+        paint(image, Pixels(9, 0xFFFFFFFF));
+
+        image.Smooth(radius);
+
+        const ULONG result = image(0, 0);
+        EXPECT_TRUE(result == 0xFFFFFFFF || result == 0xFEFEFEFE) << radius; // the float 1 / count may fall short
+    }
 }
 
 TEST(CVQDIBSmooth2x2Edges, LeavesTheFirstRowAndOnePixelMore)

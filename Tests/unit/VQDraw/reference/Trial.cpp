@@ -95,7 +95,7 @@ std::ostream& operator<<(std::ostream& out, const Trial& trial)
         << ")";
     if (trial.sourceIsImage)
         out << " with itself";
-    else
+    else if (trial.sourceWidth > 0)
         out << ", source " << trial.sourceWidth << " x " << trial.sourceHeight << " (" << nameOf(trial.sourceContent)
             << ")";
     out << ", arguments";

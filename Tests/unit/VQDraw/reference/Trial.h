@@ -58,8 +58,8 @@ struct Trial
     std::uint32_t seed = 1;
     Number width = 1;
     Number height = 1;
-    Number sourceWidth = 1;
-    Number sourceHeight = 1;
+    Number sourceWidth = 0; // 0 where no source is read
+    Number sourceHeight = 0;
     bool sourceIsImage = false; // one image plays both parts
     bool simd = false;          // which switch ran last
     std::size_t way = 0;        // by which of an operation's ways in
