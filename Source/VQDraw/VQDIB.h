@@ -254,6 +254,57 @@ public:
     void BuildFractalMap(LONG r, LONG g, LONG b, LONG alpha);
     /// @}
 
+    /// @name Smoothing, edges, blocks
+    /// Every pixel is computed from the picture as it was. The cost is linear in the number of pixels and the same for
+    /// every radius. All arguments are harmless. Where a member needs memory, a few rows, it throws std::bad_alloc
+    /// before anything has changed. "Wraps round" means that beyond an edge the picture goes on at the opposite one.
+    /// @{
+    /// Each byte, alpha included, becomes the mean, rounded down, of itself and its neighbours at the left, above, and
+    /// above left. The picture is taken as one long row, deliberately: at the left of column 0 stands the last pixel of
+    /// the row above. The first row, the first pixel of the second row, and green, red and alpha of the last pixel
+    /// stay. Needs no memory.
+    void Smooth2x2();
+
+    /// Red, green and blue become the mean, rounded down, of the 3 x 3 pixels around; alpha stays, and so does a frame
+    /// of one pixel, whatever the arguments. Width or height below 3: nothing happens.
+    void Smooth3x3();
+    /// As above in the columns x1 .. x2 - 1.
+    void Smooth3x3(LONG x1, LONG x2);
+    /// As above in the columns x1 .. x2 - 1 and the rows y1 .. y2 - 1.
+    void Smooth3x3(LONG x1, LONG y1, LONG x2, LONG y2);
+    /// The same of a rectangle's edges, which is not normalised, deliberately: reversed, it is empty.
+    void Smooth3x3(CRect rect);
+
+    /// Each channel, alpha included, becomes its mean over the 2 * radius + 1 pixels squared around, which wrap round
+    /// as often as needed: the sum times 1 / (2 * radius + 1)^2 in single precision, cut to an integer (so that a flat
+    /// picture may lose 1). Up to a radius of 127 the sum is exact; beyond, it is rounded to single precision once, and
+    /// radii above 2^27 - 1 count as that. Takes memory for 2 * radius + 1 rows, at most for as many as there are.
+    void Smooth(ULONG radius);
+
+    /// Softens a mask's edge from its transparent side: alpha of 0 .. 100 becomes the mean alpha, rounded down, of the
+    /// 5 x 5 pixels around (5 x 5 despite the name), which wrap round. Alpha above 100 and all colours stay,
+    /// deliberately: the solid side keeps its edge. Width or height below 6: nothing happens.
+    void AlphaSmooth3x3();
+
+    /// Red becomes the median of blue over the 3 x 3 pixels around, blue that of red (exchanged, deliberately), green
+    /// that of green; alpha stays. A null rectangle is the interior, without the frame of one pixel, which never
+    /// changes. Otherwise the rectangle, whose edges both belong to it, is normalised and written back clamped: left
+    /// and right to 1 .. width - 2, top to 1 .. height - 2, bottom not above top; a bottom beyond width - 2, of the
+    /// width, becomes height - 2, deliberately. A bottom below the interior is written back, but nothing is filtered
+    /// there. Width or height below 3: nothing happens, the rectangle stays.
+    void Median(CRect* rect);
+
+    /// The edges of one channel as a grey picture: all four channels, alpha included, become 127 where the channel is
+    /// flat, more where it stands out from the eight pixels around, which wrap round, less where it lies below them.
+    /// @param channel 0 blue, 1 green, 2 red, 3 alpha; its two lowest bits count.
+    void Laplacian(LONG channel);
+
+    /// Fills blocks of `size` x `size` pixels, from the top left on, with their top left pixel. Narrower strips at the
+    /// right and at the bottom stay, deliberately. Nothing happens below a size of 2, and unless it is smaller than
+    /// both width and height. Needs no memory.
+    void Mosaic(LONG size);
+    /// @}
+
     /// @name GDI+ for the process
     /// @{
     /// Starts GDI+. The host calls it once before it makes images; the library never does.

@@ -8,6 +8,7 @@
 
 namespace vq {
 
+using Channel = std::uint8_t;
 using Pixel = std::uint32_t; // 0xAARRGGBB, straight alpha; in memory blue, green, red, alpha
 
 inline constexpr Pixel kAlphaBits = 0xFF000000;
