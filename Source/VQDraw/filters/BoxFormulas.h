@@ -13,9 +13,8 @@
 
 namespace vq {
 
-inline constexpr auto fourth = [](Channel a, Channel b, Channel c, Channel d) {
-    return static_cast<Channel>((a + b + c + d) >> 2);
-};
+/// The whole part of sum / 4.
+inline constexpr auto fourth = [](std::uint16_t sum) { return static_cast<Channel>(sum >> 2); };
 
 /// The whole part of sum / 9, for sums of nine bytes.
 inline constexpr auto ninth = [](std::uint16_t sum) { return static_cast<Channel>(std::uint32_t{sum} * 7282 >> 16); };
@@ -35,6 +34,7 @@ consteval bool divides(Quotient quotient, unsigned divisor)
     return true;
 }
 
+static_assert(divides(fourth, 4));
 static_assert(divides(ninth, 9));
 static_assert(divides(twentyFifth, 25));
 
@@ -42,16 +42,17 @@ static_assert(divides(twentyFifth, 25));
 /// that stand `stride` bytes before those; all four as they were. 4 + stride <= first.
 inline void smoothBackwards(Channel* bytes, std::size_t first, std::size_t end, std::size_t stride)
 {
-    constexpr std::size_t kBlock = 256;
-    std::array<Channel, kBlock> means;
+    constexpr std::size_t kBlock = 1024;
+    std::array<std::uint16_t, kBlock + 4> pairs;
     while (first < end) {
         const std::size_t count = std::min(end - first, kBlock);
-        const Channel* own = bytes + (end - count);
-        const Channel* above = own - stride;
-        for (std::size_t i = 0; i < count; ++i)
-            means[i] = fourth(own[i], (own - 4)[i], above[i], (above - 4)[i]);
         end -= count;
-        std::copy_n(means.data(), count, bytes + end);
+        const Channel* lower = bytes + end - 4;
+        const Channel* upper = lower - stride;
+        for (std::size_t i = 0; i < count + 4; ++i)
+            pairs[i] = static_cast<std::uint16_t>(lower[i] + upper[i]);
+        for (std::size_t i = 0; i < count; ++i)
+            bytes[end + i] = fourth(static_cast<std::uint16_t>(pairs[i] + pairs[i + 4]));
     }
 }
 

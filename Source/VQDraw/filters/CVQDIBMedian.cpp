@@ -38,5 +38,5 @@ void CVQDIB::Median(CRect* rect)
     vq::RowMemory memory(vq::RowMemory::bytesFor<ULONG>(kept));
     if (rect)
         *rect = clamped;
-    vq::filterInterior(m_pImageBuffer, m_iWidth, area, memory.take<ULONG>(kept), vq::MedianColumns());
+    vq::filterInterior<vq::MedianColumns>(m_pImageBuffer, m_iWidth, area, memory.take<ULONG>(kept));
 }

@@ -41,5 +41,5 @@ void CVQDIB::Smooth3x3(LONG x1, LONG y1, LONG x2, LONG y2)
         return;
     const std::size_t kept = vq::keptPixels(area);
     vq::RowMemory memory(vq::RowMemory::bytesFor<ULONG>(kept));
-    vq::filterInterior(m_pImageBuffer, m_iWidth, area, memory.take<ULONG>(kept), vq::BoxColumns());
+    vq::filterInterior<vq::BoxColumns>(m_pImageBuffer, m_iWidth, area, memory.take<ULONG>(kept));
 }

@@ -61,8 +61,7 @@ private:
     {
         std::fill_n(m_columns, m_stride, Column{0});
         for (std::int64_t y = 0; y < m_window.size; ++y) {
-            const bool isOfRest = (y + m_window.size - m_window.start) % m_window.size < m_window.rest;
-            const std::int64_t times = m_window.rounds + (isOfRest ? 1 : 0);
+            const std::int64_t times = m_window.times(y);
             if (times > 0)
                 vq::addRow(m_columns, rowAt(y), m_rowBytes, static_cast<Column>(times));
         }
@@ -94,6 +93,8 @@ void CVQDIB::Smooth(ULONG radius)
     const std::int64_t limited = std::min<std::int64_t>(radius, vq::LargeSums::kMostRadius);
     if (limited <= vq::SmallSums::kMostRadius)
         BoxFilter<vq::SmallSums>(GetByteImageBuffer(), m_iWidth, m_iHeight, limited).run();
+    else if (limited <= vq::MediumSums::kMostRadius)
+        BoxFilter<vq::MediumSums>(GetByteImageBuffer(), m_iWidth, m_iHeight, limited).run();
     else
         BoxFilter<vq::LargeSums>(GetByteImageBuffer(), m_iWidth, m_iHeight, limited).run();
 }

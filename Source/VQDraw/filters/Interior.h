@@ -31,26 +31,28 @@ inline std::size_t keptPixels(Area area)
     return static_cast<std::size_t>(area.width() + 2);
 }
 
-/// One row in place. The three rows have `count` pixels, of which the first and the last are only looked at; `above`,
-/// which is kept aside, becomes a copy of what `row` was.
-template <typename Pixel, typename Columns>
-void filterInteriorRow(Pixel* above, Pixel* row, const Pixel* below, std::size_t count, Columns& columns)
+/// One row in place. The three rows have `count` pixels, at least 3, of which the first and the last are only looked
+/// at; `above`, which is kept aside, becomes a copy of what `row` was.
+template <typename Columns, typename Pixel>
+void filterInteriorRow(Pixel* above, Pixel* row, const Pixel* below, std::size_t count)
 {
-    const auto take = [&](std::size_t begin, std::size_t length, std::size_t place) {
-        columns.take(reinterpret_cast<const Channel*>(above + begin), reinterpret_cast<const Channel*>(row + begin),
-                     reinterpret_cast<const Channel*>(below + begin), length, place);
-        std::copy_n(row + begin, length, above + begin);
-    };
-    take(0, 2, 0);
-    for (std::size_t begin = 2; begin < count; begin += kInteriorBlock) {
+    Columns columns; // here and not the caller's: compilers see that no row lies in it
+    std::array<Pixel, kInteriorBlock> results;
+    std::size_t known = 0; // columns from the block before
+    for (std::size_t begin = 0; begin < count;) {
         const std::size_t length = std::min(count - begin, kInteriorBlock);
-        take(begin, length, 2);
-        std::array<Pixel, kInteriorBlock> results;
-        columns.combine(reinterpret_cast<Channel*>(results.data()), length);
-        Pixel* target = row + begin - 1;
-        for (std::size_t i = 0; i < length; ++i)
+        columns.take(reinterpret_cast<const Channel*>(above + begin), reinterpret_cast<const Channel*>(row + begin),
+                     reinterpret_cast<const Channel*>(below + begin), length, known);
+        std::copy_n(row + begin, length, above + begin);
+
+        const std::size_t complete = known + length - 2;
+        columns.combine(reinterpret_cast<Channel*>(results.data()), complete);
+        columns.moveLastTwoToFront(complete);
+        Pixel* target = row + begin + 1 - known;
+        for (std::size_t i = 0; i < complete; ++i)
             target[i] = Columns::merged(target[i], results[i]);
-        columns.moveLastTwoToFront(length);
+        begin += length;
+        known = 2;
     }
 }
 
@@ -62,14 +64,14 @@ void filterInteriorRow(Pixel* above, Pixel* row, const Pixel* below, std::size_t
 ///   combine(results, length): bytes of results from columns 0 .. length + 1, for the columns between them;
 ///   moveLastTwoToFront(length): columns length and length + 1 become columns 0 and 1;
 ///   merged(own, result): the pixel that is stored.
-template <typename Pixel, typename Columns>
-void filterInterior(Pixel* pixels, std::int64_t width, Area area, Pixel* above, Columns columns)
+template <typename Columns, typename Pixel>
+void filterInterior(Pixel* pixels, std::int64_t width, Area area, Pixel* above)
 {
     const std::size_t count = keptPixels(area);
     Pixel* row = pixels + area.top * width + (area.left - 1);
     std::copy_n(row - width, count, above);
     for (std::int64_t y = area.top; y < area.bottom; ++y, row += width)
-        filterInteriorRow(above, row, row + width, count, columns);
+        filterInteriorRow<Columns>(above, row, row + width, count);
 }
 
 } // namespace vq
