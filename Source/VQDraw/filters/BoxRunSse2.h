@@ -10,6 +10,8 @@
 #include <emmintrin.h>
 #endif
 
+#include <limits>
+
 namespace vq {
 
 /// Bit for bit `meansOfRunPortable`.
@@ -31,11 +33,12 @@ public:
     {
     }
 
-    /// The four means, then the window moves on.
-    __m128i next(__m128i entering, __m128i leaving)
+    /// The four means, then the window moves on by the differences of the pairs in `columns`, entering before leaving.
+    /// The products are signed: both are lowered by 32768 before, which leaves their difference.
+    __m128i next(__m128i columns)
     {
         const __m128 means = _mm_mul_ps(_mm_cvtepi32_ps(m_sums), m_factor);
-        m_sums = _mm_add_epi32(m_sums, _mm_sub_epi32(entering, leaving));
+        m_sums = _mm_add_epi32(m_sums, _mm_madd_epi16(columns, _mm_set1_epi32(kPlusMinusOne)));
         return _mm_cvttps_epi32(means);
     }
 
@@ -45,6 +48,8 @@ public:
     }
 
 private:
+    static constexpr int kPlusMinusOne = static_cast<int>(0xFFFF0001U);
+
     __m128i m_sums;
     __m128 m_factor;
 };
@@ -53,13 +58,16 @@ template <>
 inline void meansOfRun<SmallSums>(const std::uint16_t* entering, const std::uint16_t* leaving, std::size_t pixelCount,
                                   std::array<std::uint32_t, 4>& window, float factor, Channel* means)
 {
-    const __m128i zero = _mm_setzero_si128();
+    const __m128i middle = _mm_set1_epi16(std::numeric_limits<std::int16_t>::min());
+    const auto lowered = [&](const std::uint16_t* columns) {
+        return _mm_xor_si128(_mm_loadu_si128(reinterpret_cast<const __m128i*>(columns)), middle);
+    };
     WindowSse2 sums(window, factor);
     const auto nextTwo = [&](std::size_t x) {
-        const __m128i in = _mm_loadu_si128(reinterpret_cast<const __m128i*>(entering + 4 * x));
-        const __m128i out = _mm_loadu_si128(reinterpret_cast<const __m128i*>(leaving + 4 * x));
-        const __m128i first = sums.next(_mm_unpacklo_epi16(in, zero), _mm_unpacklo_epi16(out, zero));
-        const __m128i second = sums.next(_mm_unpackhi_epi16(in, zero), _mm_unpackhi_epi16(out, zero));
+        const __m128i in = lowered(entering + 4 * x);
+        const __m128i out = lowered(leaving + 4 * x);
+        const __m128i first = sums.next(_mm_unpacklo_epi16(in, out));
+        const __m128i second = sums.next(_mm_unpackhi_epi16(in, out));
         return _mm_packs_epi32(first, second);
     };
     std::size_t x = 0;
