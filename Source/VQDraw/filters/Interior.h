@@ -23,7 +23,7 @@ struct Area
 };
 
 /// Columns that are looked at together: what belongs to them stays in the nearest cache.
-inline constexpr std::size_t kInteriorBlock = 256;
+inline constexpr std::size_t kInteriorBlock = 128;
 
 /// How many pixels `filterInterior` keeps of the row above.
 inline std::size_t keptPixels(Area area)
