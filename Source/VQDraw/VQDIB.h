@@ -275,10 +275,11 @@ public:
     /// The same of a rectangle's edges, which is not normalised, deliberately: reversed, it is empty.
     void Smooth3x3(CRect rect);
 
-    /// Each channel, alpha included, becomes its mean over the 2 * radius + 1 pixels squared around, which wrap round
-    /// as often as needed: the sum times 1 / (2 * radius + 1)^2 in single precision, cut to an integer (so that a flat
-    /// picture may lose 1). Up to a radius of 127 the sum is exact; beyond, it is rounded to single precision once, and
-    /// radii above 2^27 - 1 count as that. Takes memory for 2 * radius + 1 rows, at most for as many as there are.
+    /// Each channel, alpha included, becomes its mean over the (2 * radius + 1) x (2 * radius + 1) pixels around, which
+    /// wrap round as often as needed: the sum times 1 / (2 * radius + 1)^2 in single precision, cut to an integer (so
+    /// that a flat picture may lose 1). Up to a radius of 127 the sum is exact; beyond, it is rounded to single
+    /// precision once, and radii above 2^27 - 1 count as that. Takes memory for 2 * radius + 1 rows, at most for as
+    /// many as there are, and for the sums of a row's columns.
     void Smooth(ULONG radius);
 
     /// Softens a mask's edge from its transparent side: alpha of 0 .. 100 becomes the mean alpha, rounded down, of the

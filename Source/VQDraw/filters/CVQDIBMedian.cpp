@@ -29,7 +29,7 @@ void CVQDIB::Median(CRect* rect)
     constexpr LONG kSmallest = 3;
     if (m_iWidth < kSmallest || m_iHeight < kSmallest)
         return;
-    CRect interior(1, 1, m_iWidth - 2, m_iHeight - 2);
+    const CRect interior(1, 1, m_iWidth - 2, m_iHeight - 2);
     CRect clamped = rect ? *rect : interior;
     clampToInterior(clamped, m_iWidth, m_iHeight);
     const vq::Area area{clamped.left, clamped.top, clamped.right + 1,
