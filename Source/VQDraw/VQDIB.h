@@ -256,8 +256,8 @@ public:
 
     /// @name Smoothing, edges, blocks
     /// Every pixel is computed from the picture as it was. The cost is linear in the number of pixels. All arguments
-    /// are harmless. Where a member needs memory, a few rows, it throws std::bad_alloc
-    /// before anything has changed. "Wraps round" means that beyond an edge the picture goes on at the opposite one.
+    /// are harmless. Where a member needs memory, it throws std::bad_alloc before anything has changed. "Wraps round"
+    /// means that beyond an edge the picture goes on at the opposite one.
     /// @{
     /// Each byte, alpha included, becomes the mean, rounded down, of itself and its neighbours at the left, above, and
     /// above left. The picture is taken as one long row, deliberately: at the left of column 0 stands the last pixel of
