@@ -6,6 +6,7 @@ set(VQDRAW_SANITIZER "" CACHE STRING "Sanitizers for the whole build, for instan
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_FIND_PACKAGE_TARGETS_GLOBAL ON) # a second build of a library links what the first does, from another folder
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
@@ -52,6 +53,12 @@ endfunction()
 function(vq_library target)
     add_library(${target} SHARED)
     add_library(VQDraw::${target} ALIAS ${target})
+    vq_library_settings(${target})
+    install(TARGETS ${target} EXPORT VQDrawTargets
+        RUNTIME DESTINATION bin LIBRARY DESTINATION lib ARCHIVE DESTINATION lib)
+endfunction()
+
+function(vq_library_settings target)
     vq_own_code(${target})
     target_compile_features(${target} PUBLIC cxx_std_20)
     target_include_directories(${target} PUBLIC
@@ -68,6 +75,4 @@ function(vq_library target)
             set_target_properties(${target} PROPERTIES LINK_OPTIONS "LINKER:--version-script=${map}")
         endif()
     endif()
-    install(TARGETS ${target} EXPORT VQDrawTargets
-        RUNTIME DESTINATION bin LIBRARY DESTINATION lib ARCHIVE DESTINATION lib)
 endfunction()

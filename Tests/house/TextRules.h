@@ -11,7 +11,8 @@ Faults licenceFaults(const SourceFile& file);
 /// Tabs, blanks and carriage returns at line ends, a last line without end, C++ lines of more than 120 characters.
 Faults blankFaults(const SourceFile& file);
 
-/// C++ files of more than 500 lines.
+/// C++ files of more than 500 lines. Documentation in headers does not count: a class with many members has many
+/// promises to make.
 Faults lengthFaults(const SourceFile& file);
 
 /// Headers without an include guard by pragma.

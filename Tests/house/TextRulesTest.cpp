@@ -79,6 +79,15 @@ TEST(TextCheck, FindsAFileThatIsTooLong)
     EXPECT_THAT(lengthFaults({"Source/A.cpp", std::vector<std::string>(501)}), SizeIs(1));
 }
 
+TEST(TextCheck, DoesNotCountAHeadersDocumentation)
+{
+    std::vector<std::string> lines(500);
+    lines.emplace_back("    /// A promise.");
+
+    EXPECT_THAT(lengthFaults({"Source/A.h", lines}), IsEmpty());
+    EXPECT_THAT(lengthFaults({"Source/A.cpp", lines}), SizeIs(1));
+}
+
 TEST(TextCheck, FindsAHeaderWithoutGuard)
 {
     EXPECT_THAT(guardFaults({"Source/A.h", {"int a;"}}), SizeIs(1));

@@ -7,7 +7,7 @@
 
 namespace vq::reference {
 
-/// Every operation that has a reference, with every way in.
+/// The operations that have a reference, with every way in.
 std::vector<Operation> blockOperations();
 std::vector<Operation> blendOperations();
 std::vector<Operation> twoImageOperations();
@@ -15,5 +15,7 @@ std::vector<Operation> toneOperations();
 std::vector<Operation> smoothOperations();
 std::vector<Operation> neighbourhoodOperations();
 std::vector<Operation> colourExchangeOperations();
+
+std::vector<Operation> everyOperation();
 
 } // namespace vq::reference

@@ -2,7 +2,6 @@
 // Every pixel routine, by every way in, against a plain one that takes one pixel at a time.
 #include "Operations.h"
 
-#include <iterator>
 #include <utility>
 
 namespace vq::reference {
@@ -65,15 +64,6 @@ TEST_P(PixelRoutine, EqualsItsReferenceOnLargePictures)
     for (const auto& [width, height] : {std::pair{1030, 37}, {515, 70}, {3, 900}, {4100, 5}, {256, 257}})
         for (int round = 0; round < 3; ++round)
             ASSERT_TRUE(agrees(GetParam(), randomTrial(GetParam(), seed++, width, height)));
-}
-
-std::vector<Operation> everyOperation()
-{
-    std::vector<Operation> result;
-    for (const auto family : {blockOperations, blendOperations, twoImageOperations, toneOperations, smoothOperations,
-                              neighbourhoodOperations, colourExchangeOperations})
-        std::ranges::move(family(), std::back_inserter(result));
-    return result;
 }
 
 INSTANTIATE_TEST_SUITE_P(Every, PixelRoutine, testing::ValuesIn(everyOperation()),

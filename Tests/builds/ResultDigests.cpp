@@ -1,0 +1,151 @@
+// SPDX-License-Identifier: MIT
+// Prints one line for each routine: its name, and the SHA-256 of what it made of random input. Two builds of the library
+// that print the same are the same in every bit.
+#include "support/Sha256.h"
+#include "unit/Platform/gdiplus/frames/MixedScene.h"
+#include "unit/VQDraw/reference/Operations.h"
+
+#include <cstdlib>
+#include <iostream>
+
+namespace vq::test {
+namespace {
+
+using reference::Dice;
+using reference::Number;
+
+constexpr std::uint32_t kTrials = 60;
+
+class Digest
+{
+public:
+    void add(CVQDIB& image)
+    {
+        const BYTE* first = image.GetByteImageBuffer();
+        m_bytes.insert(m_bytes.end(), first, first + image.GetSizeInByte());
+    }
+    void add(const reference::Results& numbers)
+    {
+        for (const Number number : numbers)
+            for (int shift = 0; shift < 32; shift += 8)
+                m_bytes.push_back(static_cast<std::uint8_t>(number >> shift));
+    }
+    void print(const std::string& name) const { std::cout << name << ' ' << sha256(m_bytes) << '\n'; }
+
+private:
+    std::vector<std::uint8_t> m_bytes;
+};
+
+void fill(CVQDIB& image, reference::Content content, std::uint32_t seed)
+{
+    const auto picture = reference::picture(image.GetWidth(), image.GetHeight(), content, seed);
+    std::ranges::copy(picture.pixels, image.GetImageBuffer());
+}
+
+void addTrial(Digest& digest, const reference::Operation& operation, const reference::Trial& trial)
+{
+    CVQDIB image(trial.width, trial.height);
+    CVQDIB other(std::max(trial.sourceWidth, 1), std::max(trial.sourceHeight, 1));
+    fill(image, trial.content, trial.seed);
+    fill(other, trial.sourceContent, trial.seed + 1);
+    CVQDIB& source = operation.readsSource && !trial.sourceIsImage ? other : image;
+
+    reference::Results told;
+    reference::Call call{image, source, trial.arguments, told};
+    std::srand(trial.seed);
+    operation.ways[trial.way].run(call);
+    digest.add(image);
+    digest.add(told);
+}
+
+void digestPixelRoutines()
+{
+    for (const reference::Operation& operation : reference::everyOperation()) {
+        Digest digest;
+        for (std::uint32_t seed = 0; seed < kTrials; ++seed) {
+            Dice dice(seed);
+            addTrial(digest, operation, randomTrial(operation, seed, dice.between(1, 300), dice.between(1, 90)));
+        }
+        digest.print(operation.name);
+    }
+}
+
+void digestScaledTransfers()
+{
+    using namespace Gdiplus;
+    for (const InterpolationMode mode : {InterpolationModeNearestNeighbor, InterpolationModeBilinear}) {
+        Digest digest;
+        for (std::uint32_t seed = 0; seed < kTrials; ++seed) {
+            Dice dice(seed);
+            CVQDIB image(dice.between(1, 200), dice.between(1, 90));
+            CVQDIB source(dice.between(1, 200), dice.between(1, 90));
+            fill(image, reference::Content::Random, seed);
+            fill(source, reference::Content::Random, seed + 1);
+            image.GetGraphics()->SetInterpolationMode(mode);
+            image.PasteWithScale(&source, dice.between(-9, 9), dice.between(-9, 9), dice.between(1, 200), 80);
+            image.CopyWithScale(&source, dice.between(-9, 99), dice.between(-9, 9), 50, dice.between(1, 99));
+            digest.add(image);
+        }
+        digest.print(mode == InterpolationModeBilinear ? "ScaledBilinear" : "ScaledNearest");
+    }
+}
+
+void digestSceneParts()
+{
+    const SceneObjects objects;
+    for (const ScenePart& part : sceneParts()) {
+        Digest digest;
+        for (const auto content : reference::kContents) {
+            CVQDIB image(kFrameWidth, kFrameHeight);
+            fill(image, content, 1);
+            part.draw(*image.GetGraphics(), objects);
+            digest.add(image);
+        }
+        digest.print(std::string("Scene:") + part.name);
+    }
+}
+
+/// Strokes, fills and gradients of random shapes, smooth and hard.
+void digestShapes()
+{
+    using namespace Gdiplus;
+    for (const SmoothingMode smoothing : {SmoothingModeNone, SmoothingModeAntiAlias}) {
+        Digest digest;
+        for (std::uint32_t seed = 0; seed < kTrials; ++seed) {
+            Dice dice(seed);
+            const auto coordinate = [&] { return static_cast<REAL>(dice.between(-2000, 22000)) / 100; };
+            CVQDIB image(dice.between(1, 200), dice.between(1, 200));
+            fill(image, reference::Content::Random, seed);
+            Graphics& graphics = *image.GetGraphics();
+            graphics.SetSmoothingMode(smoothing);
+
+            const Pen pen(Color(dice.word()), static_cast<REAL>(dice.between(0, 120)) / 10);
+            graphics.DrawBezier(&pen, coordinate(), coordinate(), coordinate(), coordinate(), coordinate(), coordinate(),
+                                coordinate(), coordinate());
+            std::array<PointF, 9> corners;
+            for (PointF& corner : corners)
+                corner = PointF(coordinate(), coordinate());
+            const LinearGradientBrush gradient(PointF(0, 0), PointF(150, 90), Color(dice.word()), Color(dice.word()));
+            graphics.FillPolygon(&gradient, corners.data(), static_cast<INT>(corners.size()));
+            const SolidBrush solid(Color(dice.word()));
+            graphics.FillEllipse(&solid, coordinate(), coordinate(), coordinate(), coordinate());
+            graphics.DrawEllipse(&pen, coordinate(), coordinate(), coordinate(), coordinate());
+            digest.add(image);
+        }
+        digest.print(smoothing == SmoothingModeNone ? "HardShapes" : "SmoothShapes");
+    }
+}
+
+} // namespace
+} // namespace vq::test
+
+int main()
+{
+    if (CVQDIB::InitializeGDIPlus() == 0)
+        return EXIT_FAILURE;
+    vq::test::digestPixelRoutines();
+    vq::test::digestScaledTransfers();
+    vq::test::digestShapes();
+    vq::test::digestSceneParts();
+    CVQDIB::ShutdownGDIPlus();
+}
