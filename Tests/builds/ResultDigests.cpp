@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Prints one line for each routine: its name, and the SHA-256 of what it made of random input. Two builds of the library
-// that print the same are the same in every bit.
+// Prints one line for each routine: its name, and the SHA-256 of what it made of random input. Two builds of the
+// library whose lines are the same give the same bits.
 #include "support/Sha256.h"
 #include "unit/Platform/gdiplus/frames/MixedScene.h"
 #include "unit/VQDraw/reference/Operations.h"
@@ -120,16 +120,18 @@ void digestShapes()
             graphics.SetSmoothingMode(smoothing);
 
             const Pen pen(Color(dice.word()), static_cast<REAL>(dice.between(0, 120)) / 10);
-            graphics.DrawBezier(&pen, coordinate(), coordinate(), coordinate(), coordinate(), coordinate(), coordinate(),
-                                coordinate(), coordinate());
             std::array<PointF, 9> corners;
-            for (PointF& corner : corners)
-                corner = PointF(coordinate(), coordinate());
+            for (PointF& corner : corners) {
+                corner.X = coordinate();
+                corner.Y = coordinate();
+            }
+            graphics.DrawBeziers(&pen, corners.data(), 7);
             const LinearGradientBrush gradient(PointF(0, 0), PointF(150, 90), Color(dice.word()), Color(dice.word()));
             graphics.FillPolygon(&gradient, corners.data(), static_cast<INT>(corners.size()));
             const SolidBrush solid(Color(dice.word()));
-            graphics.FillEllipse(&solid, coordinate(), coordinate(), coordinate(), coordinate());
-            graphics.DrawEllipse(&pen, coordinate(), coordinate(), coordinate(), coordinate());
+            const RectF box(corners[0], SizeF(120, coordinate()));
+            graphics.FillEllipse(&solid, box);
+            graphics.DrawEllipse(&pen, box);
             digest.add(image);
         }
         digest.print(smoothing == SmoothingModeNone ? "HardShapes" : "SmoothShapes");
