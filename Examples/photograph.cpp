@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Puts the image class to work on a photograph:  photograph PICTURE FOLDER
+#include "support/Photograph.h"
 #include "support/Gallery.h"
 #include "support/GdiPlus.h"
 
@@ -7,16 +8,6 @@
 #include <cstdio>
 
 namespace {
-
-/// A photograph of 12 million pixels would make a page of megabytes: steps work on one of at most 1024 pixels a side.
-void limitSize(CVQDIB& image)
-{
-    constexpr LONG kLongestSide = 1024;
-    const LONG longest = std::max(image.GetWidth(), image.GetHeight());
-    if (longest > kLongestSide)
-        image.Resize(std::max<LONG>(image.GetWidth() * kLongestSide / longest, 1),
-                     std::max<LONG>(image.GetHeight() * kLongestSide / longest, 1), true, true);
-}
 
 /// Opaque at the top, transparent at the bottom.
 void fadeDownwards(CVQDIB& image)
@@ -106,16 +97,12 @@ int main(int argc, char** argv)
     if (!gdiPlus.started)
         return fail("cannot start", "GDI+");
 
-    Gdiplus::Bitmap file(std::filesystem::path(argv[1]).wstring().c_str());
-    if (file.GetLastStatus() != Gdiplus::Ok)
-        return fail("not a picture that can be read", argv[1]);
-    CVQDIB original(&file);
-    if (!original.GetBitmap())
-        return fail("no memory for the picture", argv[1]);
-    limitSize(original);
+    const auto original = loadPhotograph(argv[1], 1024);
+    if (!original)
+        return fail("not a picture that can be shown", argv[1]);
 
     Gallery gallery(argv[2], "photograph", "A photograph in the image class");
-    if (!addSteps(gallery, original) || !gallery.finish())
+    if (!addSteps(gallery, *original) || !gallery.finish())
         return fail("cannot write to", argv[2]);
     return 0;
 }
