@@ -3,7 +3,7 @@
 //   drawingBench [--pictures FOLDER] [Google Benchmark options]
 // First every backend draws every scene, and the pictures are compared; with --pictures they are saved as well.
 #include "drawing/Backend.h"
-#include "drawing/OneThread.h"
+#include "support/OneThread.h"
 #include "support/RatioReporter.h"
 
 #include <algorithm>

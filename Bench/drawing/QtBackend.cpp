@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: MIT
 // A Qt painter on straight and on premultiplied memory.
 #include "drawing/Backend.h"
-#include "drawing/OneThread.h"
 
-#include <QtCore/QThreadPool>
-#include <QtGui/QGuiApplication>
 #include <QtGui/QImage>
 #include <QtGui/QPainter>
 #include <QtGui/QPainterPath>
@@ -14,18 +11,6 @@
 namespace vq::bench {
 
 namespace {
-
-/// Qt's text needs an application; this one has no screen.
-void startApplication()
-{
-    static int argumentCount = 3;
-    static char program[] = "drawingBench";
-    static char option[] = "-platform";
-    static char platform[] = "offscreen";
-    static char* arguments[] = {program, option, platform, nullptr};
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {}); // it misses a desktop
-    static const QGuiApplication application(argumentCount, arguments);
-}
 
 /// Where GDI+ puts the pen of a text whose cell has its corner at 0: a sixth of an em to the right, and down by the
 /// face's ascent (DejaVu Sans: 1901 of 2048).
@@ -153,16 +138,5 @@ const BackendRegistration kPremultiplied("Qt-premultiplied", [] {
 const BackendRegistration kStraight("Qt-straight", [] { return std::make_unique<QtBackend>(QImage::Format_ARGB32); });
 
 } // namespace
-
-int onOneThread(const std::function<int()>& work)
-{
-    startApplication();
-    int result = 0;
-    QThreadPool& pool = *QThreadPool::globalInstance();
-    pool.setMaxThreadCount(1);
-    pool.start([&] { result = work(); });
-    pool.waitForDone();
-    return result;
-}
 
 } // namespace vq::bench
