@@ -50,22 +50,27 @@ inline constexpr auto darkenBy(std::uint16_t factor)
     };
 }
 
-/// Applies a channel formula to a row. Bits set in `kept` stay as they are in dst.
-/// dst and src have the same length, and are the same row or do not overlap.
+/// Applies a channel formula to a block of pixels. Bits set in `kept` stay as they are in d.
+template <Pixel kept, typename Word, typename Count, typename Formula>
+void combineBlock(Word* d, const Word* s, Count count, Formula formula)
+{
+    std::array<Word, kBlockPixels> result; // all four bytes computed, kept ones put back: no test inside the loop
+    const auto* dBytes = reinterpret_cast<const Channel*>(d);
+    const auto* sBytes = reinterpret_cast<const Channel*>(s);
+    auto* bytes = reinterpret_cast<Channel*>(result.data());
+    for (std::size_t i = 0; i < 4 * count; ++i)
+        bytes[i] = static_cast<Channel>(formula(dBytes[i], sBytes[i]));
+    for (std::size_t i = 0; i < count; ++i)
+        d[i] = (d[i] & kept) | (result[i] & ~kept);
+}
+
+/// `combineBlock` along a row. dst and src have the same length, and are the same row or do not overlap.
 template <Pixel kept, typename Word, typename Formula>
 void combineRow(std::span<Word> dst, std::type_identity_t<std::span<const Word>> src, Formula formula)
 {
     static_assert(sizeof(Word) == sizeof(Pixel));
-    forEachBlock(dst.size(), [&](std::size_t begin, auto count) {
-        std::array<Word, kBlockPixels> result; // all four bytes computed, kept ones put back: no test inside the loop
-        const auto* d = reinterpret_cast<const Channel*>(&dst[begin]);
-        const auto* s = reinterpret_cast<const Channel*>(&src[begin]);
-        auto* r = reinterpret_cast<Channel*>(result.data());
-        for (std::size_t i = 0; i < 4 * count; ++i)
-            r[i] = static_cast<Channel>(formula(d[i], s[i]));
-        Word* words = &dst[begin];
-        for (std::size_t i = 0; i < count; ++i)
-            words[i] = (words[i] & kept) | (result[i] & ~kept);
+    forEachBlock(dst.size(), [=](std::size_t begin, auto count) {
+        combineBlock<kept>(dst.data() + begin, src.data() + begin, count, formula);
     });
 }
 
@@ -75,8 +80,8 @@ void combineRowWith(std::span<Word> dst, Pixel constant, Formula formula)
 {
     std::array<Word, kBlockPixels> source;
     source.fill(constant);
-    forEachBlock(dst.size(), [&](std::size_t begin, auto count) {
-        combineRow<0>(dst.subspan(begin, count), std::span<const Word>(source).first(count), formula);
+    forEachBlock(dst.size(), [=](std::size_t begin, auto count) {
+        combineBlock<0>(dst.data() + begin, source.data(), count, formula);
     });
 }
 

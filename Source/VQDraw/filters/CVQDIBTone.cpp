@@ -10,24 +10,24 @@
 
 void CVQDIB::InvertDefault(CVQDIB& image)
 {
-    vq::toneRow(image.Pixels(), vq::inverted);
+    vq::transformRow(image.Pixels(), vq::inverted);
 }
 
 void CVQDIB::ConvertToGrayDefault(CVQDIB& image)
 {
-    vq::toneRow(image.Pixels(), vq::weightedGrey);
+    vq::transformRow(image.Pixels(), vq::weightedGrey);
 }
 
 void CVQDIB::QuantizeDefault(CVQDIB& image, LONG n)
 {
-    vq::toneRow(image.Pixels(), vq::quantized(static_cast<unsigned>(n) & 7));
+    vq::transformRow(image.Pixels(), vq::quantized(static_cast<unsigned>(n) & 7));
 }
 
 void CVQDIB::EqualizeDefault(CVQDIB& image)
 {
     const vq::ChannelRange range = vq::blueRange(std::span<const ULONG>(image.Pixels()));
     if (range.low < range.high)
-        vq::toneRow(image.Pixels(), vq::stretched(range));
+        vq::transformRow(image.Pixels(), vq::stretched(range));
 }
 
 void CVQDIB::Invert()
@@ -46,7 +46,7 @@ void CVQDIB::ConvertToGray(CRect rect)
     if (rect.left > rect.right)
         return;
     for (LONG y = rect.top; y <= rect.bottom; ++y)
-        vq::toneRow(std::span(GetImageBuffer(rect.left, y), GetImageBuffer(rect.right, y) + 1), vq::meanGrey);
+        vq::transformRow(std::span(GetImageBuffer(rect.left, y), GetImageBuffer(rect.right, y) + 1), vq::meanGrey);
 }
 
 void CVQDIB::Quantize(LONG n)
@@ -65,6 +65,6 @@ void CVQDIB::Darken(LONG level)
         const auto colours = static_cast<vq::Pixel>(std::min<LONG>(level, 255)) * 0x010101; // nothing from alpha
         vq::combineRowWith(Pixels(), colours, vq::subtract);
     } else {
-        vq::toneRow(Pixels(), vq::brightened(level));
+        vq::transformRow(Pixels(), vq::brightened(level));
     }
 }

@@ -2,7 +2,7 @@
 #pragma once
 
 /// @file
-/// Tones of one picture: formulas for a pixel, the loop that applies them, and the range of a channel. Standard library
+/// Tones of one picture: formulas for a pixel, and the range of a channel. Standard library
 /// only.
 
 #include "VQDraw/image/PixelBlocks.h"
@@ -14,15 +14,6 @@
 #include <span>
 
 namespace vq {
-
-/// Applies a formula to every pixel of a row or of a whole picture.
-template <typename Word, typename Formula>
-void toneRow(std::span<Word> pixels, Formula formula)
-{
-    static_assert(sizeof(Word) == sizeof(Pixel));
-    for (Word& pixel : pixels)
-        pixel = formula(pixel);
-}
 
 /// A pixel's alpha with the same byte in blue, green and red.
 inline constexpr Pixel asGrey(Pixel pixel, std::int32_t grey)

@@ -81,20 +81,21 @@ inline constexpr Pixel tinted(Pixel pixel, const Tint& tint)
     return blueAndGreen | red << 16 | alphaPlusWeight(pixel >> 24, tint.weight);
 }
 
-/// A block of pixels by halves, and a weight for each half.
+/// A block of pixels, seen as words, as halves or as bytes.
 template <typename Word>
-struct HalfBlock
+struct Block
 {
     static_assert(sizeof(Word) == sizeof(Pixel));
     std::array<Word, kBlockPixels> words;
 
     Half* halves() { return reinterpret_cast<Half*>(words.data()); }
+    Channel* bytes() { return reinterpret_cast<Channel*>(words.data()); }
     /// Both halves of pixel i.
     void setBoth(std::size_t i, Word half) { words[i] = half | half << 16; }
 };
 
-template <typename Word>
-bool hasAlpha(const Word* pixels, std::size_t count)
+template <typename Word, typename Count>
+bool hasAlpha(const Word* pixels, Count count)
 {
     Word bits = 0;
     for (std::size_t i = 0; i < count; ++i)
@@ -102,86 +103,127 @@ bool hasAlpha(const Word* pixels, std::size_t count)
     return (bits & kAlphaBits) != 0;
 }
 
-/// mixed[i] = colours of d[i] and s[i] by the weight of each half; its alpha bytes mean nothing.
-template <typename Word>
-void mixBlock(HalfBlock<Word>& mixed, const Word* d, const Word* s, HalfBlock<Word>& weights, std::size_t count)
+/// moves[i] = what is to be added to the channels of d[i], byte by byte: (s * w + d * (256 - w)) / 256 lies
+/// (s - d) * w / 256 from d, of which bits 8 to 15 matter. `lows` and `highs` have the weights for the lower and the
+/// upper channel of each half.
+template <typename Word, typename Count>
+void findMoves(Block<Word>& moves, const Word* d, const Word* s, Block<Word>& lows, Block<Word>& highs, Count count)
 {
     const Half* dHalves = reinterpret_cast<const Half*>(d);
     const Half* sHalves = reinterpret_cast<const Half*>(s);
-    const Half* weight = weights.halves();
-    Half* result = mixed.halves();
+    const Half* lowWeights = lows.halves();
+    const Half* highWeights = highs.halves();
+    Half* result = moves.halves();
     for (std::size_t i = 0; i < 2 * count; ++i) {
-        const auto low = static_cast<std::uint16_t>((sHalves[i] & 0xFFu) * weight[i]);
-        const auto high = static_cast<std::uint16_t>((sHalves[i] >> 8u) * weight[i]);
-        result[i] = mixedHalf(dHalves[i], static_cast<std::uint16_t>(256u - weight[i]), low, high);
+        const auto lowGap = static_cast<std::uint16_t>((sHalves[i] & 0xFFu) - (dHalves[i] & 0xFFu));
+        const auto highGap = static_cast<std::uint16_t>((sHalves[i] >> 8u) - (dHalves[i] >> 8u));
+        const auto low = static_cast<std::uint16_t>(1u * lowGap * lowWeights[i]);
+        const auto high = static_cast<std::uint16_t>(1u * highGap * highWeights[i]);
+        result[i] = static_cast<std::uint16_t>(low >> 8 | (high & 0xFF00));
     }
 }
 
-/// Source over destination by the source's alpha; alphas add up to 255 at most. A block without alpha is only read.
-template <typename Word>
-void pasteBlock(Word* d, const Word* s, std::size_t count)
+/// Source over destination by the source's alpha; alphas add up to 255 at most. Where there is no alpha, the
+/// destination is not even read.
+template <typename Word, typename Count>
+void pasteBlock(Word* d, const Word* s, Count count)
 {
     if (!hasAlpha(s, count))
         return;
-    HalfBlock<Word> weights;
-    HalfBlock<Word> mixed;
+    Block<Word> lows;
+    Block<Word> highs;
+    for (std::size_t i = 0; i < count; ++i) {
+        highs.words[i] = s[i] >> 24; // none for alpha
+        lows.setBoth(i, s[i] >> 24);
+    }
+    Block<Word> moves;
+    findMoves(moves, d, s, lows, highs, count);
+    Block<Word> alphas;
     for (std::size_t i = 0; i < count; ++i)
-        weights.setBoth(i, s[i] >> 24);
-    mixBlock(mixed, d, s, weights, count);
-    for (std::size_t i = 0; i < count; ++i) // no longer reads s, which may overlap d
-        d[i] = (mixed.words[i] & kColourBits) | limitedAlphaSum(d[i] >> 24, weights.words[i] & 0xFF);
+        alphas.words[i] = s[i] & kAlphaBits;
+    auto* bytes = reinterpret_cast<Channel*>(d);
+    const Channel* move = moves.bytes();
+    const Channel* alpha = alphas.bytes();
+    for (std::size_t i = 0; i < 4 * count; ++i) // no longer reads s, which may overlap d
+        bytes[i] = static_cast<Channel>(bytes[i] + (move[i] | std::min<Channel>(alpha[i], 255 - bytes[i])));
 }
 
-/// `pasteBlock` along a row. Rows that overlap: dst does not start to the right of src.
+/// `pasteBlock` along a row. The rows do not overlap.
 template <typename Word>
 void pasteRow(std::span<Word> dst, const Word* src)
 {
-    forEachBlock(dst.size(), [&](std::size_t begin, auto count) { pasteBlock(&dst[begin], src + begin, count); });
+    forEachBlock(dst.size(),
+                 [=](std::size_t begin, auto count) { pasteBlock(dst.data() + begin, src + begin, count); });
+}
+
+/// As `pasteRow` for rows that overlap with dst starting to the left of src, or at the same place.
+template <typename Word>
+void pasteRowFromTheLeft(std::span<Word> dst, const Word* src)
+{
+    forEachBlockFromTheLeft(dst.size(),
+                            [=](std::size_t begin, auto count) { pasteBlock(dst.data() + begin, src + begin, count); });
 }
 
 /// As `pasteRow` for rows that overlap with dst starting to the right of src.
 template <typename Word>
 void pasteRowFromTheRight(std::span<Word> dst, const Word* src)
 {
-    forEachBlockFromTheRight(dst.size(),
-                             [&](std::size_t begin, auto count) { pasteBlock(&dst[begin], src + begin, count); });
+    forEachBlockFromTheRight(
+        dst.size(), [=](std::size_t begin, auto count) { pasteBlock(dst.data() + begin, src + begin, count); });
+}
+
+/// Every pixel by the same weight, which is given for each half, too.
+template <typename Word, typename Count>
+void blendBlock(Word* d, const Word* s, Block<Word>& weights, std::int32_t weight, Count count)
+{
+    Block<Word> sums;
+    findMoves(sums, d, s, weights, weights, count);
+    const auto* dBytes = reinterpret_cast<const Channel*>(d);
+    Channel* bytes = sums.bytes();
+    for (std::size_t i = 0; i < 4 * count; ++i)
+        bytes[i] = static_cast<Channel>(bytes[i] + dBytes[i]);
+    for (std::size_t i = 0; i < count; ++i)
+        d[i] = (sums.words[i] & kColourBits) | alphaPlusWeight(d[i] >> 24, weight);
 }
 
 /// src over dst, every pixel by the same weight. The same row, or rows that do not overlap.
 template <typename Word>
 void blendRow(std::span<Word> dst, const Word* src, std::int32_t weight)
 {
-    HalfBlock<Word> weights;
+    Block<Word> weights;
     for (std::size_t i = 0; i < kBlockPixels; ++i)
         weights.setBoth(i, static_cast<std::uint16_t>(weight));
-    forEachBlock(dst.size(), [&](std::size_t begin, auto count) {
-        HalfBlock<Word> mixed;
-        Word* d = &dst[begin];
-        mixBlock(mixed, d, src + begin, weights, count);
-        for (std::size_t i = 0; i < count; ++i)
-            d[i] = (mixed.words[i] & kColourBits) | alphaPlusWeight(d[i] >> 24, weight);
+    forEachBlock(dst.size(), [=](std::size_t begin, auto count) mutable {
+        blendBlock(dst.data() + begin, src + begin, weights, weight, count);
     });
+}
+
+/// Both channels of each half times `rest`, plus `lows` and `high`; alpha as in `tinted`.
+template <typename Word, typename Count>
+void tintBlock(Word* d, Block<Word>& lows, std::uint16_t high, std::uint16_t rest, std::int32_t weight, Count count)
+{
+    Block<Word> mixed;
+    const Half* dHalves = reinterpret_cast<const Half*>(d);
+    const Half* low = lows.halves();
+    Half* result = mixed.halves();
+    for (std::size_t i = 0; i < 2 * count; ++i)
+        result[i] = mixedHalf(dHalves[i], rest, low[i], high);
+    for (std::size_t i = 0; i < count; ++i)
+        d[i] = (mixed.words[i] & kColourBits) | alphaPlusWeight(d[i] >> 24, weight);
 }
 
 /// Every pixel blended with a colour, as `tinted` does it.
 template <typename Word>
 void tintRow(std::span<Word> dst, const Tint& tint)
 {
-    const auto rest = static_cast<std::uint16_t>(256u - static_cast<std::uint32_t>(tint.weight));
-    const std::uint16_t green = weighted(tint.green, tint.weight);
-    HalfBlock<Word> lows;
+    const std::int32_t weight = tint.weight;
+    const auto rest = static_cast<std::uint16_t>(256u - static_cast<std::uint32_t>(weight));
+    const std::uint16_t green = weighted(tint.green, weight);
+    Block<Word> lows;
     for (Word& low : lows.words)
-        low = static_cast<Word>(weighted(tint.red, tint.weight)) << 16 | weighted(tint.blue, tint.weight);
-    forEachBlock(dst.size(), [&](std::size_t begin, auto count) {
-        HalfBlock<Word> mixed;
-        Word* d = &dst[begin];
-        const Half* dHalves = reinterpret_cast<const Half*>(d);
-        const Half* low = lows.halves();
-        Half* result = mixed.halves();
-        for (std::size_t i = 0; i < 2 * count; ++i)
-            result[i] = mixedHalf(dHalves[i], rest, low[i], green);
-        for (std::size_t i = 0; i < count; ++i)
-            d[i] = (mixed.words[i] & kColourBits) | alphaPlusWeight(d[i] >> 24, tint.weight);
+        low = static_cast<Word>(weighted(tint.red, weight)) << 16 | weighted(tint.blue, weight);
+    forEachBlock(dst.size(), [=](std::size_t begin, auto count) mutable {
+        tintBlock(dst.data() + begin, lows, green, rest, weight, count);
     });
 }
 

@@ -2,22 +2,11 @@
 // Filling with colours and alpha.
 #include "VQDraw/VQDIB.h"
 
+#include "VQDraw/image/PixelBlocks.h"
 #include "VQDraw/image/PixelFormulas.h"
 
 #include <algorithm>
 #include <span>
-
-namespace {
-
-/// Applies a formula to every pixel of a row or of a whole image.
-template <typename Formula>
-void transform(std::span<ULONG> pixels, Formula formula)
-{
-    for (ULONG& pixel : pixels)
-        pixel = formula(pixel);
-}
-
-} // namespace
 
 void CVQDIB::Clear(BYTE r, BYTE g, BYTE b, BYTE a)
 {
@@ -59,7 +48,7 @@ void CVQDIB::Clear(CRect rect, COLORREF colour, LONG alpha)
 
 void CVQDIB::ClearAlpha(BYTE alpha)
 {
-    transform({m_pImageBuffer, static_cast<std::size_t>(m_iPixelCount)},
+    vq::transformRow(Pixels(),
               [alpha](ULONG pixel) { return vq::withAlpha(pixel, alpha); });
 }
 
@@ -70,21 +59,21 @@ void CVQDIB::ClearAlpha(CRect rect, ULONG alpha)
     if (rect.left > rect.right)
         return;
     for (LONG y = rect.top; y <= rect.bottom; ++y)
-        transform({GetImageBuffer(rect.left, y), GetImageBuffer(rect.right, y) + 1},
+        vq::transformRow(std::span{GetImageBuffer(rect.left, y), GetImageBuffer(rect.right, y) + 1},
                   [limited](ULONG pixel) { return vq::withAlpha(pixel, limited); });
 }
 
 void CVQDIB::ClearScanlineAlpha(LONG y, BYTE alpha)
 {
     if (HasRow(y))
-        transform({GetImageBuffer(0, y), static_cast<std::size_t>(m_iWidth)},
+        vq::transformRow(std::span{GetImageBuffer(0, y), static_cast<std::size_t>(m_iWidth)},
                   [alpha](ULONG pixel) { return vq::withAlpha(pixel, alpha); });
 }
 
 void CVQDIB::SaturateAlphaChannel(LONG s)
 {
     const auto factor = static_cast<std::uint16_t>(static_cast<std::uint32_t>(s) + 1);
-    transform({m_pImageBuffer, static_cast<std::size_t>(m_iPixelCount)},
+    vq::transformRow(Pixels(),
               [factor](ULONG pixel) { return vq::withScaledAlpha(pixel, factor); });
 }
 
@@ -92,12 +81,12 @@ void CVQDIB::SaturateScanlineAlpha(LONG y, LONG s)
 {
     const auto factor = static_cast<std::uint16_t>(static_cast<std::uint32_t>(s) + 1);
     if (HasRow(y))
-        transform({GetImageBuffer(0, y), static_cast<std::size_t>(m_iWidth)},
+        vq::transformRow(std::span{GetImageBuffer(0, y), static_cast<std::size_t>(m_iWidth)},
                   [factor](ULONG pixel) { return vq::withScaledAlpha(pixel, factor); });
 }
 
 void CVQDIB::ExchangeRB()
 {
-    transform({m_pImageBuffer, static_cast<std::size_t>(m_iPixelCount)},
+    vq::transformRow(Pixels(),
               [](ULONG pixel) { return vq::redAndBlueExchanged(pixel); });
 }

@@ -11,14 +11,20 @@ void CVQDIB::PasteDefault(CVQDIB* dst, CVQDIB* src, LONG dx, LONG dy, LONG sx, L
     const CSingleLock lock(&_critSect, TRUE);
     if (!RectangularRegionClip(*dst, dx, dy, *src, sx, sy, w, h) || w <= 0 || h <= 0)
         return;
+    const auto width = static_cast<std::size_t>(w);
+    if (dst != src && w == dst->m_iWidth && w == src->m_iWidth) { // one row
+        const std::span target(dst->GetImageBuffer(0, dy), width * static_cast<std::size_t>(h));
+        vq::pasteRow<ULONG>(target, src->GetImageBuffer(0, sy));
+        return;
+    }
     const bool movesRightInItsOwnRows = dst == src && dy == sy && dx > sx;
     for (LONG row = 0; row < h; ++row) {
-        const std::span target(dst->GetImageBuffer(dx, dy + row), static_cast<std::size_t>(w));
+        const std::span target(dst->GetImageBuffer(dx, dy + row), width);
         const ULONG* source = src->GetImageBuffer(sx, sy + row);
         if (movesRightInItsOwnRows)
             vq::pasteRowFromTheRight(target, source);
         else
-            vq::pasteRow(target, source);
+            vq::pasteRowFromTheLeft(target, source);
     }
 }
 
