@@ -54,9 +54,17 @@ inline constexpr auto darkenBy(std::uint16_t factor)
 template <Pixel kept, typename Word, typename Count, typename Formula>
 void combineBlock(Word* d, const Word* s, Count count, Formula formula)
 {
+    const auto* sBytes = reinterpret_cast<const Channel*>(s);
+    if constexpr (kept == 0) {
+        auto* bytes = reinterpret_cast<Channel*>(d);
+        const std::size_t byteCount = 4 * count;
+#pragma GCC ivdep // the same pixels or others: no byte depends on another one
+        for (std::size_t i = 0; i < byteCount; ++i)
+            bytes[i] = static_cast<Channel>(formula(bytes[i], sBytes[i]));
+        return;
+    }
     std::array<Word, kBlockPixels> result; // all four bytes computed, kept ones put back: no test inside the loop
     const auto* dBytes = reinterpret_cast<const Channel*>(d);
-    const auto* sBytes = reinterpret_cast<const Channel*>(s);
     auto* bytes = reinterpret_cast<Channel*>(result.data());
     for (std::size_t i = 0; i < 4 * count; ++i)
         bytes[i] = static_cast<Channel>(formula(dBytes[i], sBytes[i]));

@@ -9,6 +9,9 @@
 
 namespace {
 
+/// Pixels that are searched together: most blocks hold none of the colours.
+constexpr LONG kBlock = 64;
+
 struct ColourPairs
 {
     const COLORREF* from; // 0x00RRGGBB
@@ -27,7 +30,7 @@ bool contains(const ULONG* pixels, std::size_t count, ULONG wanted)
 
 void exchangeBlock(ULONG* pixels, std::size_t count, const ColourPairs& pairs)
 {
-    std::array<ULONG, vq::kBlockPixels> before;
+    std::array<ULONG, kBlock> before;
     std::copy_n(pixels, count, before.begin());
     for (std::size_t pair = 0; pair < pairs.count; ++pair) {
         const ULONG wanted = pairs.from[pair] | vq::kAlphaBits;
@@ -51,9 +54,8 @@ int CVQDIB::ExchangePairs(const COLORREF* from, const COLORREF* to, std::size_t 
     const ColourPairs pairs{from, to, count, alpha};
     for (LONG y = 0; y < height; ++y) {
         ULONG* row = GetImageBuffer(0, y);
-        vq::forEachBlock(static_cast<std::size_t>(width), [&](std::size_t begin, std::size_t blockCount) {
-            exchangeBlock(row + begin, blockCount, pairs);
-        });
+        for (LONG x = 0; x < width; x += kBlock)
+            exchangeBlock(row + x, static_cast<std::size_t>(std::min(width - x, kBlock)), pairs);
     }
     return 1;
 }

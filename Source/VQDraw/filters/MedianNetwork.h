@@ -14,11 +14,6 @@
 
 namespace vq {
 
-// Values and not references, so no std::min and std::max: where these two stand side by side GCC 12 compares and
-// selects.
-inline constexpr auto smaller = [](Channel a, Channel b) { return a < b ? a : b; };
-inline constexpr auto larger = [](Channel a, Channel b) { return a > b ? a : b; };
-
 inline constexpr auto middle = [](Channel a, Channel b, Channel c) {
     return larger(smaller(a, b), smaller(larger(a, b), c));
 };

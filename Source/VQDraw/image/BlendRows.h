@@ -43,6 +43,13 @@ inline constexpr Tint tintFromColorRef(std::uint32_t colour, std::int32_t alpha)
     return {channel(0), channel(8), channel(16), (alpha & 0xFF) | channel(24)};
 }
 
+/// A pixel's colour.
+inline constexpr Tint tintOf(Pixel pixel, std::int32_t weight)
+{
+    const auto channel = [pixel](int shift) { return static_cast<std::int32_t>(pixel >> shift & 0xFF); };
+    return {channel(16), channel(8), channel(0), weight};
+}
+
 /// The part of (s * w + d * (256 - w)) that does not depend on d.
 inline constexpr std::uint16_t weighted(std::int32_t channel, std::int32_t weight)
 {
@@ -57,14 +64,8 @@ inline constexpr std::uint16_t mixedHalf(std::uint16_t half, std::uint16_t rest,
     return static_cast<std::uint16_t>(lowSum >> 8 | (highSum & 0xFF00));
 }
 
-/// Alpha in the top byte, after two alphas 0 .. 255 were added and limited to 255.
-inline constexpr Pixel limitedAlphaSum(Pixel alpha, Pixel other)
-{
-    const Pixel sum = alpha + other;
-    return (sum | (0u - (sum >> 8))) << 24;
-}
-
-/// As above for a weight of any size: a sum of 256 and more is 255, of a negative one the low 8 bits stay.
+/// Alpha in the top byte, after a weight of any size was added: a sum of 256 and more is 255, of a negative one the low
+/// 8 bits stay.
 inline constexpr Pixel alphaPlusWeight(Pixel alpha, std::int32_t weight)
 {
     const auto sum = static_cast<std::int32_t>(alpha + static_cast<std::uint32_t>(weight));
@@ -90,8 +91,6 @@ struct Block
 
     Half* halves() { return reinterpret_cast<Half*>(words.data()); }
     Channel* bytes() { return reinterpret_cast<Channel*>(words.data()); }
-    /// Both halves of pixel i.
-    void setBoth(std::size_t i, Word half) { words[i] = half | half << 16; }
 };
 
 template <typename Word, typename Count>
@@ -103,49 +102,62 @@ bool hasAlpha(const Word* pixels, Count count)
     return (bits & kAlphaBits) != 0;
 }
 
-/// moves[i] = what is to be added to the channels of d[i], byte by byte: (s * w + d * (256 - w)) / 256 lies
-/// (s - d) * w / 256 from d, of which bits 8 to 15 matter. `lows` and `highs` have the weights for the lower and the
-/// upper channel of each half.
+/// What a blend knows of a block beside the two pictures: a weight for the lower and for the upper channel of each
+/// half, none for alpha, and what is added to alpha, in the top byte of each word.
+template <typename Word>
+struct BlockWeights
+{
+    Block<Word> lows;
+    Block<Word> highs;
+    Block<Word> alphas;
+
+    /// weight: 0 .. 255
+    void set(std::size_t i, Word weight)
+    {
+        lows.words[i] = weight | weight << 16;
+        highs.words[i] = weight;
+        alphas.words[i] = weight << 24;
+    }
+};
+
+/// Each channel of d moves towards s by its weight: (s * w + d * (256 - w)) / 256 lies (s - d) * w / 256 from d, of
+/// which bits 8 to 15 matter. Alphas add up to 255 at most. As a function of its own it would have its arguments in
+/// memory.
 template <typename Word, typename Count>
-void findMoves(Block<Word>& moves, const Word* d, const Word* s, Block<Word>& lows, Block<Word>& highs, Count count)
+[[gnu::always_inline]] inline void moveBlock(Word* d, const Word* s, BlockWeights<Word>& weights, Count count)
 {
     const Half* dHalves = reinterpret_cast<const Half*>(d);
     const Half* sHalves = reinterpret_cast<const Half*>(s);
-    const Half* lowWeights = lows.halves();
-    const Half* highWeights = highs.halves();
-    Half* result = moves.halves();
+    const Half* lowWeights = weights.lows.halves();
+    const Half* highWeights = weights.highs.halves();
+    Block<Word> moves;
+    Half* halfMoves = moves.halves();
     for (std::size_t i = 0; i < 2 * count; ++i) {
         const auto lowGap = static_cast<std::uint16_t>((sHalves[i] & 0xFFu) - (dHalves[i] & 0xFFu));
         const auto highGap = static_cast<std::uint16_t>((sHalves[i] >> 8u) - (dHalves[i] >> 8u));
         const auto low = static_cast<std::uint16_t>(1u * lowGap * lowWeights[i]);
         const auto high = static_cast<std::uint16_t>(1u * highGap * highWeights[i]);
-        result[i] = static_cast<std::uint16_t>(low >> 8 | (high & 0xFF00));
+        halfMoves[i] = static_cast<std::uint16_t>(low >> 8 | (high & 0xFF00));
     }
+    auto* bytes = reinterpret_cast<Channel*>(d);
+    const Channel* move = moves.bytes();
+    const Channel* alpha = weights.alphas.bytes();
+    const std::size_t byteCount = 4 * count;
+#pragma GCC ivdep // no longer reads s, which may overlap d
+    for (std::size_t i = 0; i < byteCount; ++i)
+        bytes[i] = static_cast<Channel>(bytes[i] + (move[i] | std::min<Channel>(alpha[i], 255 - bytes[i])));
 }
 
-/// Source over destination by the source's alpha; alphas add up to 255 at most. Where there is no alpha, the
-/// destination is not even read.
+/// Source over destination by the source's alpha. Where there is none, the destination is not even read.
 template <typename Word, typename Count>
-void pasteBlock(Word* d, const Word* s, Count count)
+[[gnu::always_inline]] inline void pasteBlock(Word* d, const Word* s, Count count)
 {
     if (!hasAlpha(s, count))
         return;
-    Block<Word> lows;
-    Block<Word> highs;
-    for (std::size_t i = 0; i < count; ++i) {
-        highs.words[i] = s[i] >> 24; // none for alpha
-        lows.setBoth(i, s[i] >> 24);
-    }
-    Block<Word> moves;
-    findMoves(moves, d, s, lows, highs, count);
-    Block<Word> alphas;
+    BlockWeights<Word> weights;
     for (std::size_t i = 0; i < count; ++i)
-        alphas.words[i] = s[i] & kAlphaBits;
-    auto* bytes = reinterpret_cast<Channel*>(d);
-    const Channel* move = moves.bytes();
-    const Channel* alpha = alphas.bytes();
-    for (std::size_t i = 0; i < 4 * count; ++i) // no longer reads s, which may overlap d
-        bytes[i] = static_cast<Channel>(bytes[i] + (move[i] | std::min<Channel>(alpha[i], 255 - bytes[i])));
+        weights.set(i, s[i] >> 24);
+    moveBlock(d, s, weights, count);
 }
 
 /// `pasteBlock` along a row. The rows do not overlap.
@@ -172,59 +184,49 @@ void pasteRowFromTheRight(std::span<Word> dst, const Word* src)
         dst.size(), [=](std::size_t begin, auto count) { pasteBlock(dst.data() + begin, src + begin, count); });
 }
 
-/// Every pixel by the same weight, which is given for each half, too.
-template <typename Word, typename Count>
-void blendBlock(Word* d, const Word* s, Block<Word>& weights, std::int32_t weight, Count count)
+inline constexpr bool isByte(std::int32_t value)
 {
-    Block<Word> sums;
-    findMoves(sums, d, s, weights, weights, count);
-    const auto* dBytes = reinterpret_cast<const Channel*>(d);
-    Channel* bytes = sums.bytes();
-    for (std::size_t i = 0; i < 4 * count; ++i)
-        bytes[i] = static_cast<Channel>(bytes[i] + dBytes[i]);
-    for (std::size_t i = 0; i < count; ++i)
-        d[i] = (sums.words[i] & kColourBits) | alphaPlusWeight(d[i] >> 24, weight);
+    return value >= 0 && value <= 255;
+}
+
+template <typename Word>
+BlockWeights<Word> sameWeights(std::int32_t weight)
+{
+    BlockWeights<Word> weights;
+    for (std::size_t i = 0; i < kBlockPixels; ++i)
+        weights.set(i, static_cast<Word>(weight));
+    return weights;
 }
 
 /// src over dst, every pixel by the same weight. The same row, or rows that do not overlap.
 template <typename Word>
 void blendRow(std::span<Word> dst, const Word* src, std::int32_t weight)
 {
-    Block<Word> weights;
-    for (std::size_t i = 0; i < kBlockPixels; ++i)
-        weights.setBoth(i, static_cast<std::uint16_t>(weight));
-    forEachBlock(dst.size(), [=](std::size_t begin, auto count) mutable {
-        blendBlock(dst.data() + begin, src + begin, weights, weight, count);
-    });
-}
-
-/// Both channels of each half times `rest`, plus `lows` and `high`; alpha as in `tinted`.
-template <typename Word, typename Count>
-void tintBlock(Word* d, Block<Word>& lows, std::uint16_t high, std::uint16_t rest, std::int32_t weight, Count count)
-{
-    Block<Word> mixed;
-    const Half* dHalves = reinterpret_cast<const Half*>(d);
-    const Half* low = lows.halves();
-    Half* result = mixed.halves();
-    for (std::size_t i = 0; i < 2 * count; ++i)
-        result[i] = mixedHalf(dHalves[i], rest, low[i], high);
-    for (std::size_t i = 0; i < count; ++i)
-        d[i] = (mixed.words[i] & kColourBits) | alphaPlusWeight(d[i] >> 24, weight);
+    if (isByte(weight)) {
+        forEachBlock(dst.size(), [=, weights = sameWeights<Word>(weight)](std::size_t begin, auto count) mutable {
+            moveBlock(dst.data() + begin, src + begin, weights, count);
+        });
+        return;
+    }
+    for (std::size_t i = 0; i < dst.size(); ++i)
+        dst[i] = tinted(dst[i], tintOf(src[i], weight));
 }
 
 /// Every pixel blended with a colour, as `tinted` does it.
 template <typename Word>
 void tintRow(std::span<Word> dst, const Tint& tint)
 {
-    const std::int32_t weight = tint.weight;
-    const auto rest = static_cast<std::uint16_t>(256u - static_cast<std::uint32_t>(weight));
-    const std::uint16_t green = weighted(tint.green, weight);
-    Block<Word> lows;
-    for (Word& low : lows.words)
-        low = static_cast<Word>(weighted(tint.red, weight)) << 16 | weighted(tint.blue, weight);
-    forEachBlock(dst.size(), [=](std::size_t begin, auto count) mutable {
-        tintBlock(dst.data() + begin, lows, green, rest, weight, count);
-    });
+    if (isByte(tint.red) && isByte(tint.green) && isByte(tint.blue) && isByte(tint.weight)) {
+        Block<Word> source;
+        source.words.fill(
+            argb(0, static_cast<Channel>(tint.red), static_cast<Channel>(tint.green), static_cast<Channel>(tint.blue)));
+        forEachBlock(dst.size(), [=, weights = sameWeights<Word>(tint.weight)](std::size_t begin, auto count) mutable {
+            moveBlock(dst.data() + begin, source.words.data(), weights, count);
+        });
+        return;
+    }
+    for (Word& pixel : dst)
+        pixel = tinted(pixel, tint);
 }
 
 } // namespace vq

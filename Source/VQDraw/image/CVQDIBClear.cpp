@@ -2,6 +2,7 @@
 // Filling with colours and alpha.
 #include "VQDraw/VQDIB.h"
 
+#include "VQDraw/image/FillSse2.h"
 #include "VQDraw/image/PixelBlocks.h"
 #include "VQDraw/image/PixelFormulas.h"
 
@@ -10,7 +11,7 @@
 
 void CVQDIB::Clear(BYTE r, BYTE g, BYTE b, BYTE a)
 {
-    std::fill_n(m_pImageBuffer, m_iPixelCount, vq::argb(a, r, g, b));
+    vq::fillPicture(Pixels(), vq::argb(a, r, g, b));
 }
 
 void CVQDIB::Clear(COLORREF colour)
@@ -20,12 +21,12 @@ void CVQDIB::Clear(COLORREF colour)
 
 void CVQDIB::Clear(COLORREF colour, BYTE alpha)
 {
-    std::fill_n(m_pImageBuffer, m_iPixelCount, vq::pixelFromColorRef(colour, alpha));
+    vq::fillPicture(Pixels(), vq::pixelFromColorRef(colour, alpha));
 }
 
 void CVQDIB::Clear(Gdiplus::Color colour)
 {
-    std::fill_n(m_pImageBuffer, m_iPixelCount, colour.GetValue());
+    vq::fillPicture(Pixels(), colour.GetValue());
 }
 
 /// The part of the rectangle inside the image, both edges included; empty when left > right or top > bottom.

@@ -10,32 +10,41 @@
 
 namespace vq {
 
-/// A line of the processor's cache, and few enough for registers: loops over a whole block are unrolled.
+/// Few enough for registers, many enough for compilers to make vectors of loops over a whole block before they unroll
+/// them. Two lines of the cache.
 inline constexpr std::size_t kBlockPixels = 32;
+using WholeBlock = std::integral_constant<std::size_t, kBlockPixels>;
+
+/// Four pages of memory.
+inline constexpr std::size_t kPagePixels = 4096 / 4;
+inline constexpr std::size_t kFourPages = 4 * kPagePixels;
+
+/// Calls `visit(begin, count)` for each block of the `kFourPages` pixels from `begin` on, going through the pages side
+/// by side. Processors fetch ahead within a page only, and with four of them they wait a fifth to a third less for
+/// memory beyond the caches (3840 x 2160 pixels, one picture read and written: 3.1 instead of 4.6 ms; two read and one
+/// written: 5.3 instead of 6.6 ms).
+template <typename Visit>
+void forEachBlockOfFourPages(std::size_t begin, Visit visit)
+{
+    for (std::size_t inPage = 0; inPage < kPagePixels; inPage += kBlockPixels)
+        for (std::size_t page = 0; page < kFourPages; page += kPagePixels)
+            visit(begin + page + inPage, WholeBlock());
+}
 
 /// Pictures that no processor keeps in the cache of one core.
 inline constexpr std::size_t kLargePixels = std::size_t{1} << 20;
 
 /// Calls `visit(begin, count)` once for each block of a row, in an order of its own. The last block may be shorter; the
 /// count of a whole one is a constant that the compiler knows.
-///
-/// Large pictures are gone through in four pages of memory side by side: processors fetch ahead within a page only, and
-/// with four of them they wait a fifth to a third less (3840 x 2160 pixels, one read and written: 3.1 instead of 4.6
-/// ms, one of two written: 5.3 instead of 6.6 ms).
 template <typename Visit>
 void forEachBlock(std::size_t length, Visit visit)
 {
-    constexpr std::integral_constant<std::size_t, kBlockPixels> kWhole;
-    constexpr std::size_t kPage = 4096 / 4;
-    constexpr std::size_t kPages = 4 * kPage;
     std::size_t begin = 0;
     if (length >= kLargePixels)
-        for (; begin + kPages <= length; begin += kPages)
-            for (std::size_t inPage = 0; inPage < kPage; inPage += kBlockPixels)
-                for (std::size_t page = 0; page < kPages; page += kPage)
-                    visit(begin + page + inPage, kWhole);
+        for (; begin + kFourPages <= length; begin += kFourPages)
+            forEachBlockOfFourPages(begin, visit);
     for (; begin + kBlockPixels <= length; begin += kBlockPixels)
-        visit(begin, kWhole);
+        visit(begin, WholeBlock());
     if (begin < length)
         visit(begin, length - begin);
 }
@@ -46,7 +55,7 @@ void forEachBlockFromTheLeft(std::size_t length, Visit visit)
 {
     const std::size_t end = length - length % kBlockPixels;
     for (std::size_t begin = 0; begin < end; begin += kBlockPixels)
-        visit(begin, std::integral_constant<std::size_t, kBlockPixels>());
+        visit(begin, WholeBlock());
     if (end < length)
         visit(end, length - end);
 }
@@ -59,7 +68,7 @@ void forEachBlockFromTheRight(std::size_t length, Visit visit)
     if (end < length)
         visit(end, length - end);
     for (; end > 0; end -= kBlockPixels)
-        visit(end - kBlockPixels, std::integral_constant<std::size_t, kBlockPixels>());
+        visit(end - kBlockPixels, WholeBlock());
 }
 
 /// Applies a formula to every pixel of a row or of a whole picture.

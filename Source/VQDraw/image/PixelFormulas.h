@@ -14,6 +14,11 @@ using Pixel = std::uint32_t; // 0xAARRGGBB, straight alpha; in memory blue, gree
 inline constexpr Pixel kAlphaBits = 0xFF000000;
 inline constexpr Pixel kColourBits = 0x00FFFFFF;
 
+// Values and not references, so no std::min and std::max: where these two stand side by side or work on memory GCC 12
+// compares and selects.
+inline constexpr auto smaller = [](Channel a, Channel b) { return a < b ? a : b; };
+inline constexpr auto larger = [](Channel a, Channel b) { return a > b ? a : b; };
+
 inline constexpr Pixel argb(std::uint8_t alpha, std::uint8_t red, std::uint8_t green, std::uint8_t blue)
 {
     return static_cast<Pixel>(alpha) << 24 | static_cast<Pixel>(red) << 16 | static_cast<Pixel>(green) << 8 | blue;
