@@ -2,6 +2,8 @@
 // Scaled transfers of whole images, drawn by GDI+.
 #include "VQDraw/VQDIB.h"
 
+#include "VQDraw/image/SourceCopy.h"
+
 namespace {
 
 /// High compositing quality for as long as it lives, then the default one.
@@ -20,22 +22,6 @@ private:
     Gdiplus::Graphics& m_graphics;
 };
 
-/// Replaces pixels for as long as it lives, then composites.
-class SourceCopy
-{
-public:
-    explicit SourceCopy(Gdiplus::Graphics& graphics) : m_graphics(graphics)
-    {
-        m_graphics.SetCompositingMode(Gdiplus::CompositingModeSourceCopy);
-    }
-    ~SourceCopy() { m_graphics.SetCompositingMode(Gdiplus::CompositingModeSourceOver); }
-    SourceCopy(const SourceCopy&) = delete;
-    SourceCopy& operator=(const SourceCopy&) = delete;
-
-private:
-    Gdiplus::Graphics& m_graphics;
-};
-
 } // namespace
 
 void CVQDIB::CopyWithScale(CVQDIB* source)
@@ -48,7 +34,7 @@ void CVQDIB::CopyWithScale(CVQDIB* source, LONG x, LONG y, LONG w, LONG h)
     const CSingleLock lock(&_critSect, TRUE);
     if (!m_pGraphics)
         return;
-    const SourceCopy mode(*m_pGraphics);
+    const vq::SourceCopy mode(*m_pGraphics);
     const HighQuality quality(*m_pGraphics);
     if (source && source->m_pBitmap)
         m_pGraphics->DrawImage(source->m_pBitmap, Gdiplus::Rect(x, y, w, h));
