@@ -307,6 +307,108 @@ public:
     void Mosaic(LONG size);
     /// @}
 
+    /// @name Lines and outlines
+    /// Drawn by GDI+ on the image's graphics: smooth while antialiasing is on, cut to the image, blended by alpha. Of
+    /// an alpha, and of channels given one by one, the low 8 bits count; the top byte of a colour is ignored. Pens are
+    /// in pixels; a negative width is 1, and so is 0. All coordinates are harmless. What GDI+ refuses to draw leaves
+    /// its status in the graphics.
+    /// @{
+    /// With `arrow` the line ends in a head with its tip at (x2, y2).
+    void Line(LONG x1, LONG y1, LONG x2, LONG y2, LONG r, LONG g, LONG b, LONG a, LONG width, bool arrow);
+    void Line(LONG x1, LONG y1, LONG x2, LONG y2, COLORREF colour, LONG alpha, LONG width, bool arrow);
+    void LineH(LONG x1, LONG x2, LONG y, COLORREF colour, LONG alpha);
+    void LineV(LONG y1, LONG y2, LONG x, COLORREF colour, LONG alpha);
+    /// From edge to edge of the image.
+    void LineH(LONG y, COLORREF colour, LONG alpha, float width);
+    void LineV(LONG x, COLORREF colour, LONG alpha, float width);
+
+    /// Three pixels on, one off.
+    void LineHStipple(LONG x1, LONG x2, LONG y, COLORREF colour, LONG alpha);
+    void LineVStipple(LONG y1, LONG y2, LONG x, COLORREF colour, LONG alpha);
+    /// From edge to edge of the image.
+    void LineHStipple(LONG y, COLORREF colour, LONG alpha);
+    void LineVStipple(LONG x, COLORREF colour, LONG alpha);
+    /// One pixel on, one off.
+    void LineStipple(LONG x1, LONG y1, LONG x2, LONG y2, COLORREF colour, LONG alpha);
+    void LineStipple(LONG x1, LONG y1, LONG x2, LONG y2, LONG r, LONG g, LONG b, LONG a);
+    /// Round dots a pixel wide, a pixel apart.
+    void LineStipple2(LONG x1, LONG y1, LONG x2, LONG y2, COLORREF colour, LONG alpha);
+
+    /// The rectangle is normalised in place. Its right and bottom edges are drawn on: `CRect(0, 0, 10, 10)` is 11 x 11
+    /// pixels. Without width or height nothing is drawn.
+    void DrawRect(CRect& rect, COLORREF colour, LONG alpha);
+    /// As above, in round dots a pixel wide, a pixel apart, clockwise from the top left.
+    void DrawStippleRect(CRect& rect, COLORREF colour, LONG alpha);
+    /// Top and left edge in one colour, then bottom and right edge in the other. The rectangle is normalised in place.
+    void Draw3DRect(CRect& rect, COLORREF topLeft, COLORREF bottomRight, LONG alpha, LONG width);
+    /// Lines along the middle of the outermost pixels.
+    void DrawBorder(COLORREF colour, LONG alpha, float width);
+
+    void DrawCircle(LONG cx, LONG cy, LONG radius, COLORREF colour, LONG alpha, LONG width);
+    /// Through (px, py), with the radius rounded down to whole pixels and a pen of 1.
+    void DrawCircle(LONG cx, LONG cy, LONG px, LONG py, COLORREF colour, LONG alpha);
+    /// The ellipse in a rectangle, as it is given. Dashes are two widths long, three apart.
+    void DrawCircle(Gdiplus::Rect rect, Gdiplus::Color colour, double width, bool dashed);
+    /// In a rectangle that is normalised.
+    void DrawCircle(CRect rect, COLORREF colour, BYTE alpha, double width, bool dashed);
+
+    /// The rectangle is normalised. `corner` is the diameter of the round corners: 0 gives plain ones, below 0 nothing
+    /// is drawn.
+    void DrawRoundRect(CRect rect, int corner, int width, COLORREF colour, BYTE alpha);
+    /// The closed polygon of `count` points. Nothing below three.
+    void DrawRgn(CPoint* points, int count, int width, COLORREF colour, LONG alpha);
+    /// As above, but what it covers takes colour and alpha exactly, instead of being blended. An alpha of 0 clears.
+    void ClearRgnPath(CPoint* points, int count, int width, COLORREF colour, LONG alpha);
+
+    /// Blends one pixel, without GDI+: a colour becomes (new * a + old * (256 - a)) / 256, rounded down, so 255 stops
+    /// one step short of the colour. Alphas add up to 255 at most. Outside the image nothing happens. The low 8 bits of
+    /// every channel count.
+    void Pixel(int x, int y, LONG r, LONG g, LONG b, LONG a);
+    void Pixel(int x, int y, COLORREF colour, LONG alpha);
+    /// @}
+
+    /// @name Filled shapes
+    /// As lines and outlines. Rectangles are normalised where nothing else is said; their right and bottom edges lie
+    /// outside.
+    /// @{
+    /// With hard edges whatever the antialiasing, deliberately.
+    void FillRect(CRect rect, COLORREF colour, LONG alpha);
+    void FillRect(CRect rect, Gdiplus::LinearGradientBrush& brush);
+    /// The pattern's lines, which lie on a grid of the image's, over what is there. The rectangle is not normalised,
+    /// deliberately: reversed, it is empty.
+    void FillHatchRect(CRect rect, COLORREF colour, LONG alpha, Gdiplus::HatchStyle style);
+
+    /// The ellipse in a rectangle, as it is given.
+    void FillCircle(Gdiplus::Rect rect, Gdiplus::Color colour);
+    void FillCircle(CRect rect, COLORREF colour, BYTE alpha);
+    /// Opaque, with an outline of 1.
+    void DrawFilledCircle(CRect rect, COLORREF outline, COLORREF fill);
+
+    /// Corners as in `DrawRoundRect`.
+    void FillRoundRect(CRect rect, int corner, COLORREF colour, BYTE alpha);
+    void DrawFilledRoundRect(CRect rect, int corner, int width, COLORREF fill, BYTE fillAlpha, COLORREF outline,
+                             BYTE outlineAlpha);
+    /// The first colour up to 80 % of the way from p1 to p2, then a ramp to the second one; beyond both ends it
+    /// repeats. The rectangle's corners are plain whatever `corner` says, deliberately. Nothing when p1 is p2.
+    void FillGradientRoundRect(CRect rect, int corner, Gdiplus::PointF p1, Gdiplus::PointF p2, COLORREF c1, COLORREF c2,
+                               BYTE a1, BYTE a2);
+
+    /// The polygon of `count` points; parts covered twice stay open. Nothing below three points.
+    void FillRgn(CPoint* points, int count, COLORREF colour, LONG alpha);
+    /// As above, but what it covers takes colour and alpha exactly, instead of being blended. An alpha of 0 clears.
+    void ClearRgn(CPoint* points, int count, COLORREF colour, LONG alpha);
+    /// @}
+
+    /// @name Selections
+    /// @{
+    /// A rectangle between two opposite corners: width and height as labels in the image's font and text colour, where
+    /// there is room for them, then the fill over the labels, deliberately, then guides across the whole image if
+    /// wanted, a dashed outline, and ticks at the corners, all white.
+    void DrawSelection(CPoint& p1, CPoint& p2, COLORREF colour, LONG alpha, bool guides);
+    /// Draws nothing and stands in no slot, deliberately.
+    static void LineHSSE2(CVQDIB* image, LONG x1, LONG x2, LONG y, COLORREF colour, LONG alpha);
+    /// @}
+
     /// @name GDI+ for the process
     /// @{
     /// Starts GDI+. The host calls it once before it makes images; the library never does.
@@ -376,6 +478,7 @@ public:
     using LevelRoutine = void(CVQDIB& image, LONG level);
     using PairRoutine = void(CVQDIB& dst, CVQDIB& src);
     using PairLevelRoutine = void(CVQDIB& dst, CVQDIB& src, LONG level);
+    using CircleRoutine = void(CVQDIB* image, LONG cx, LONG cy, LONG px, LONG py, COLORREF colour, LONG alpha);
 
     static CopyRoutine* pfCopy;
     static PasteRoutine* pfPaste;
@@ -391,6 +494,10 @@ public:
     static PairRoutine* pfAdd;
     static PairRoutine* pfSubtract;
     static ImageRoutine* pfEmboss;
+    /// The selection of the circle around (cx, cy) through (px, py), its radius rounded down to whole pixels: filled in
+    /// the colour, with a dashed outline, a radius and a square handle at both of its ends in white of an alpha higher
+    /// by 32, 255 at most. A null image is harmless.
+    static CircleRoutine* DrawCircleSelection;
     /// @}
 
 protected:
@@ -427,6 +534,10 @@ private:
                                      LONG& h);
     std::span<ULONG> Pixels() const { return {m_pImageBuffer, static_cast<std::size_t>(m_iPixelCount)}; }
     bool HasSizeOf(const CVQDIB& other) const;
+    Gdiplus::Rect Reachable(const CRect& rect) const;
+    void AddRoundRect(Gdiplus::GraphicsPath& path, CRect rect, int corner) const;
+    void DrawSizeLabels(const CRect& selection);
+    void DrawCornerTicks(const CRect& selection);
     int ExchangePairs(const COLORREF* from, const COLORREF* to, std::size_t count, LONG alpha);
 
     // The portable routines do the work; those named after a processor call them, so that no result depends on it.
@@ -445,6 +556,7 @@ private:
     static PairRoutine AddDefault, AddSSE2;
     static PairRoutine SubtractDefault, SubtractSSE2;
     static ImageRoutine EmbossDefault, EmbossSSE2;
+    static CircleRoutine DrawCircleSelectionDefault, DrawCircleSelectionSSE2;
 
     ULONG* m_pImageBuffer;
     Gdiplus::Bitmap* m_pBitmap;

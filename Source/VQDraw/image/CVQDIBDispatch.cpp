@@ -16,6 +16,7 @@ constinit CVQDIB::PairRoutine* CVQDIB::pfScreen = ScreenDefault;
 constinit CVQDIB::PairRoutine* CVQDIB::pfAdd = AddDefault;
 constinit CVQDIB::PairRoutine* CVQDIB::pfSubtract = SubtractDefault;
 constinit CVQDIB::ImageRoutine* CVQDIB::pfEmboss = EmbossDefault;
+constinit CVQDIB::CircleRoutine* CVQDIB::DrawCircleSelection = DrawCircleSelectionDefault;
 
 void CVQDIB::EnableSIMD()
 {
@@ -24,6 +25,7 @@ void CVQDIB::EnableSIMD()
 
 void CVQDIB::DisableSIMD()
 {
+    DrawCircleSelection = DrawCircleSelectionDefault;
     pfCopy = CopyDefault;
     pfQuantize = QuantizeDefault;
     pfConvertToGray = ConvertToGrayDefault;
@@ -123,3 +125,10 @@ void CVQDIB::EmbossSSE2(CVQDIB& image)
 {
     EmbossDefault(image);
 }
+
+void CVQDIB::DrawCircleSelectionSSE2(CVQDIB* image, LONG cx, LONG cy, LONG px, LONG py, COLORREF colour, LONG alpha)
+{
+    DrawCircleSelectionDefault(image, cx, cy, px, py, colour, alpha);
+}
+
+void CVQDIB::LineHSSE2(CVQDIB*, LONG, LONG, LONG, COLORREF, LONG) {}
