@@ -40,6 +40,8 @@ struct VQTestAccess
     static EmbossRoutine& embossSlot() { return CVQDIB::pfEmboss; }
     static EmbossRoutine embossDefault() { return &CVQDIB::EmbossDefault; }
     static EmbossRoutine embossSse2() { return &CVQDIB::EmbossSSE2; }
+    static CVQDIB::CircleRoutine* circleSelectionDefault() { return &CVQDIB::DrawCircleSelectionDefault; }
+    static CVQDIB::CircleRoutine* circleSelectionSse2() { return &CVQDIB::DrawCircleSelectionSSE2; }
 
     template <typename Image>
     struct PixelRoutines; // the routines behind the other slots, for those who compare them

@@ -6,7 +6,8 @@
 namespace vq::gdiplus {
 namespace {
 
-constexpr double kMostSteps = 65536;
+/// Curves that would need more are so large that their single-precision coordinates are coarser than these edges.
+constexpr double kMostSteps = 16384;
 
 /// The larger component of a - 2b + c.
 double secondDifference(PointD a, PointD b, PointD c)

@@ -26,7 +26,7 @@ struct CurvePrecision
 
 using Bezier = std::array<PointD, 4>;
 
-/// The number of edges, equal steps of the parameter, that a curve becomes: 1 .. 65536. For n steps the distance is
+/// The number of edges, equal steps of the parameter, that a curve becomes: 1 .. 16384. For n steps the distance is
 /// 3/4 D / n^2 at most, D the larger second difference of the control points. A parallel curve at distance r adds
 /// r a^2 / 8 to it where the curve turns by the angle a within a step.
 int bezierSteps(const Bezier& curve, CurvePrecision precision);

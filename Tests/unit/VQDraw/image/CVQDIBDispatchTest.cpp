@@ -36,7 +36,8 @@ auto allSlots()
 {
     return std::tuple(CVQDIB::pfCopy, CVQDIB::pfPaste, CVQDIB::pfQuantize, CVQDIB::pfConvertToGray, CVQDIB::pfEqualize,
                       CVQDIB::pfMultiply, CVQDIB::pfLighten, CVQDIB::pfDarken, CVQDIB::pfDifference, CVQDIB::pfInvert,
-                      CVQDIB::pfScreen, CVQDIB::pfAdd, CVQDIB::pfSubtract, CVQDIB::pfEmboss);
+                      CVQDIB::pfScreen, CVQDIB::pfAdd, CVQDIB::pfSubtract, CVQDIB::pfEmboss,
+                      CVQDIB::DrawCircleSelection);
 }
 
 TEST(CVQDIBDispatch, SwitchingToAndFroChangesNothing)
@@ -58,6 +59,7 @@ TEST(CVQDIBDispatch, ASwitchRestoresWhatAHostPutIntoASlot)
     CVQDIB::pfAdd = nullptr;
     CVQDIB::pfPaste = nullptr;
     CVQDIB::pfQuantize = nullptr;
+    CVQDIB::DrawCircleSelection = nullptr;
 
     CVQDIB::EnableSIMD();
 

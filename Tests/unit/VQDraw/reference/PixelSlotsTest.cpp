@@ -39,6 +39,7 @@ TEST(PixelSlots, HoldThePortableRoutinesWhicheverSwitchRanLast)
     expectRestored(CVQDIB::pfAdd, Routines::addDefault(), "pfAdd");
     expectRestored(CVQDIB::pfSubtract, Routines::subtractDefault(), "pfSubtract");
     expectRestored(CVQDIB::pfEmboss, VQTestAccess::embossDefault(), "pfEmboss");
+    expectRestored(CVQDIB::DrawCircleSelection, VQTestAccess::circleSelectionDefault(), "DrawCircleSelection");
 }
 
 /// What the routine in a slot was called with.

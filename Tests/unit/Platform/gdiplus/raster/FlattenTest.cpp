@@ -37,8 +37,8 @@ TEST(Flatten, GdiplusTakesPowersOfTwo)
 
 TEST(Flatten, EnormousCurvesHaveABoundedNumberOfEdges)
 {
-    EXPECT_EQ(bezierSteps(quarterCircle(1e18), CurvePrecision::fine()), 65536);
-    EXPECT_EQ(bezierSteps(quarterCircle(std::numeric_limits<double>::infinity()), CurvePrecision::fine()), 65536);
+    EXPECT_EQ(bezierSteps(quarterCircle(1e18), CurvePrecision::fine()), 16384);
+    EXPECT_EQ(bezierSteps(quarterCircle(std::numeric_limits<double>::infinity()), CurvePrecision::fine()), 16384);
 }
 
 TEST(Flatten, EdgesStayWithinTheFlatnessOfTheCurve)
