@@ -3,66 +3,86 @@
 
 #include "Platform/gdiplus/raster/Polylines.h"
 
+#include <algorithm>
 #include <array>
+#include <utility>
 
 namespace vq::gdiplus {
 
-/// A small convex shape and what half-planes along the axes leave of it.
+/// A small convex shape that is cut along the axes, piece by piece.
 class ConvexPolygon
 {
 public:
-    explicit ConvexPolygon(const std::array<PointD, 4>& corners) : m_count(corners.size())
+    explicit ConvexPolygon(const std::array<PointD, 4>& corners)
     {
-        for (std::size_t i = 0; i < corners.size(); ++i)
-            m_points[i] = corners[i];
+        for (const PointD& corner : corners)
+            add(corner);
     }
 
     bool empty() const { return m_count < 3; }
 
-    /// What lies at low <= x <= high, and at low <= y <= high.
-    ConvexPolygon betweenColumns(double low, double high) const
+    /// The least and the largest y; of a shape that is not empty.
+    std::pair<double, double> rows() const
     {
-        return cut<&PointD::x>(low, 1).template cut<&PointD::x>(-high, -1);
+        double least = m_points[0].y;
+        double most = least;
+        for (std::size_t i = 1; i < m_count; ++i) {
+            least = std::min(least, m_points[i].y);
+            most = std::max(most, m_points[i].y);
+        }
+        return {least, most};
     }
-    ConvexPolygon betweenRows(double low, double high) const
-    {
-        return cut<&PointD::y>(low, 1).template cut<&PointD::y>(-high, -1);
-    }
+
+    /// Takes away, and gives, what lies at x <= bound, and at y <= bound.
+    ConvexPolygon takeColumnsUpTo(double bound) { return take<&PointD::x>(bound); }
+    ConvexPolygon takeRowsUpTo(double bound) { return take<&PointD::y>(bound); }
 
     double area() const
     {
         double twice = 0;
-        for (std::size_t i = 0; i < m_count; ++i) {
-            const PointD& a = m_points[i];
-            const PointD& b = m_points[i + 1 == m_count ? 0 : i + 1];
-            twice += (a.x - m_points[0].x) * (b.y - m_points[0].y) - (b.x - m_points[0].x) * (a.y - m_points[0].y);
+        for (std::size_t i = 2; i < m_count; ++i) {
+            const PointD a = m_points[i - 1] - m_points[0];
+            const PointD b = m_points[i] - m_points[0];
+            twice += a.x * b.y - b.x * a.y;
         }
         return std::abs(twice) / 2;
     }
 
 private:
-    ConvexPolygon() = default;
+    ConvexPolygon() {} // not `= default`, which would set all points to zero
 
-    /// Each of four cuts adds a corner at most; one has room for two to come.
+    /// Of parallel cuts each but the first replaces the two corners of the one before: four corners become six by
+    /// columns and eight by rows.
     static constexpr std::size_t kMostPoints = 10;
 
-    /// Keeps the points whose coordinate, times `sign`, is `bound` at least.
-    template <double PointD::*coordinate>
-    ConvexPolygon cut(double bound, double sign) const
+    void add(PointD point)
     {
+        if (m_count < kMostPoints)
+            m_points[m_count++] = point;
+    }
+
+    template <double PointD::*coordinate>
+    ConvexPolygon take(double bound)
+    {
+        ConvexPolygon taken;
         ConvexPolygon rest;
-        const auto add = [&](PointD point) { rest.m_points[rest.m_count++] = point; };
-        for (std::size_t i = 0; i < m_count && rest.m_count + 2 <= kMostPoints; ++i) {
+        for (std::size_t i = 0; i < m_count; ++i) {
             const PointD& a = m_points[i];
             const PointD& b = m_points[i + 1 == m_count ? 0 : i + 1];
-            const double insideA = a.*coordinate * sign - bound;
-            const double insideB = b.*coordinate * sign - bound;
-            if (insideA >= 0)
-                add(a);
-            if ((insideA >= 0) != (insideB >= 0))
-                add(a + (b - a) * (insideA / (insideA - insideB)));
+            const double beyondA = a.*coordinate - bound;
+            const double beyondB = b.*coordinate - bound;
+            if (beyondA <= 0)
+                taken.add(a);
+            if (beyondA >= 0)
+                rest.add(a);
+            if ((beyondA < 0 && beyondB > 0) || (beyondA > 0 && beyondB < 0)) {
+                const PointD between = a + (b - a) * (beyondA / (beyondA - beyondB));
+                taken.add(between);
+                rest.add(between);
+            }
         }
-        return rest;
+        *this = rest;
+        return taken;
     }
 
     std::array<PointD, kMostPoints> m_points;

@@ -44,6 +44,9 @@ double shareAbove(double middle, double half)
 /// Memory is fetched for what is drawn this many columns later.
 constexpr int kAhead = 16;
 
+/// A line with fewer columns than this looks up less than its table has entries.
+constexpr int kFewColumns = 64;
+
 /// Composites a pixel of a line that was turned, or was not, to be wider than high.
 template <bool steep, typename Composite>
 struct Plot
@@ -84,24 +87,27 @@ bool SmoothLine::canDraw(PointD from, PointD to, double width)
     return width <= kWidest && isNear(from) && isNear(to);
 }
 
+/// The share, of kWhole, above an edge that passes `step` steps below a pixel's upper side.
+int SmoothLine::shareAtStep(int step, double halfSlope)
+{
+    return static_cast<int>(shareAbove(static_cast<double>(step) / kSteps, halfSlope) * kWhole + 0.5);
+}
+
 void SmoothLine::tabulate(double slope)
 {
     if (slope == m_slope)
         return;
     m_slope = slope;
-    constexpr int kOrigin = kReach * kSteps; // where an edge passes through the upper side's middle
-    for (int i = -kSteps / 2; i <= kSteps + kSteps / 2; ++i) {
-        const double share = shareAbove(static_cast<double>(i) / kSteps, slope / 2);
-        m_shares[static_cast<std::size_t>(kOrigin + i)] = static_cast<std::uint16_t>(share * kWhole + 0.5);
-    }
+    for (int i = -kSteps / 2; i <= kSteps + kSteps / 2; ++i)
+        m_shares[static_cast<std::size_t>(kOrigin + i)] = static_cast<std::uint16_t>(shareAtStep(i, slope / 2));
 }
 
-/// The columns between the ends: two parallel edges pass through each of them.
-template <typename Plot>
+/// The columns between the ends: two parallel edges pass through each of them. `shareAt(i)` is the share of a pixel
+/// above an edge that passes i steps below its upper side.
+template <typename Plot, typename ShareAt>
 void SmoothLine::drawSteps(double firstCentre, double slope, double halfHeight, int first, int last, int rows,
-                           const Plot& plot)
+                           const Plot& plot, ShareAt shareAt)
 {
-    constexpr int kOrigin = kReach * kSteps;
     const double reach = std::abs(slope) / 2;
     std::int64_t upper = toFixed(firstCentre - halfHeight + 0.5); // rows begin half a pixel above their centres
     const std::int64_t thickness = toFixed(2 * halfHeight);
@@ -115,9 +121,7 @@ void SmoothLine::drawSteps(double firstCentre, double slope, double halfHeight, 
         const auto upperStep = static_cast<int>((upper + kHalfStep) >> kStepBits);
         const auto lowerStep = static_cast<int>((lower + kHalfStep) >> kStepBits);
         for (int j = firstRow; j <= lastRow; ++j) {
-            const int origin = kOrigin - j * kSteps;
-            const int share = m_shares[static_cast<std::size_t>(lowerStep + origin)] -
-                              m_shares[static_cast<std::size_t>(upperStep + origin)];
+            const int share = shareAt(lowerStep - j * kSteps) - shareAt(upperStep - j * kSteps);
             plot(i, j, static_cast<Channel>((share + 128) >> 8));
         }
     }
@@ -145,21 +149,36 @@ void SmoothLine::drawTurned(PointD from, PointD to, double width, int columns, i
     const int lastWhole = std::min(column(std::floor(to.x - overhang - 0.5)), last);
 
     const auto drawEnd = [&](int begin, int end) {
+        ConvexPolygon rest = body;
+        rest.takeColumnsUpTo(begin - 0.5);
         for (int i = begin; i < end; ++i) {
-            const ConvexPolygon strip = body.betweenColumns(i - 0.5, i + 0.5);
-            const double centre = from.y + (i - from.x) * slope;
-            const double reach = halfHeight + std::abs(slope) / 2 + overhang;
+            ConvexPolygon strip = rest.takeColumnsUpTo(i + 0.5);
+            if (strip.empty())
+                continue;
+            const auto [top, bottom] = strip.rows();
             const auto row = [rows](double y) { return static_cast<int>(std::clamp(y, -1.0, rows + 0.0)); };
-            const int lastRow = std::min(row(std::ceil(centre + reach)), rows - 1);
-            for (int j = std::max(row(std::floor(centre - reach)), 0); !strip.empty() && j <= lastRow; ++j)
-                plot(i, j, toChannel(strip.betweenRows(j - 0.5, j + 0.5).area()));
+            const int firstRow = std::max(row(std::floor(top + 0.5)), 0);
+            const int lastRow = std::min(row(std::ceil(bottom - 0.5)), rows - 1);
+            if (top < firstRow - 0.5)
+                strip.takeRowsUpTo(firstRow - 0.5);
+            for (int j = firstRow; j <= lastRow; ++j)
+                plot(i, j, toChannel(bottom > j + 0.5 ? strip.takeRowsUpTo(j + 0.5).area() : strip.area()));
         }
     };
     if (firstWhole > lastWhole)
         return drawEnd(first, last + 1);
-    tabulate(std::abs(slope));
     drawEnd(first, firstWhole);
-    drawSteps(from.y + (firstWhole - from.x) * slope, slope, halfHeight, firstWhole, lastWhole, rows, plot);
+    const auto drawStepsWith = [&](auto shareAt) {
+        drawSteps(from.y + (firstWhole - from.x) * slope, slope, halfHeight, firstWhole, lastWhole, rows, plot,
+                  shareAt);
+    };
+    const double steepness = std::abs(slope);
+    if (steepness != m_slope && lastWhole - firstWhole < kFewColumns) {
+        drawStepsWith([=](int step) { return shareAtStep(step, steepness / 2); });
+    } else {
+        tabulate(steepness);
+        drawStepsWith([this](int step) { return m_shares[static_cast<std::size_t>(kOrigin + step)]; });
+    }
     drawEnd(lastWhole + 1, last + 1);
 }
 

@@ -91,14 +91,35 @@ TEST(SmoothFill, ComesOutTheSameWhereRunsArePainted)
     EXPECT_EQ(direct.pixels, painted.pixels);
 }
 
-TEST(ConvexPolygon, IsCutByHalfPlanes)
+TEST(ConvexPolygon, IsCutPieceByPiece)
 {
-    const ConvexPolygon square({PointD{0, 0}, PointD{4, 0}, PointD{4, 4}, PointD{0, 4}});
-
+    ConvexPolygon square({PointD{0, 0}, PointD{4, 0}, PointD{4, 4}, PointD{0, 4}});
     EXPECT_EQ(square.area(), 16);
-    EXPECT_EQ(square.betweenColumns(1, 2).area(), 4);
-    EXPECT_EQ(square.betweenColumns(3, 9).betweenRows(-1, 2).area(), 2);
-    EXPECT_TRUE(square.betweenRows(5, 6).empty());
+
+    EXPECT_EQ(square.takeColumnsUpTo(1).area(), 4);
+    ConvexPolygon column = square.takeColumnsUpTo(2);
+    EXPECT_EQ(column.area(), 4);
+    EXPECT_TRUE(column.takeRowsUpTo(-1).empty());
+    EXPECT_EQ(column.takeRowsUpTo(3).area(), 3);
+    EXPECT_EQ(column.takeRowsUpTo(9).area(), 1);
+    EXPECT_TRUE(column.empty());
+    EXPECT_EQ(square.area(), 8);
+}
+
+TEST(ConvexPolygon, KeepsItsAreaInAllItsPieces)
+{
+    ConvexPolygon rest({PointD{0.3, 5.1}, PointD{7.2, 0.4}, PointD{7.9, 1.6}, PointD{1.0, 6.3}});
+    const double whole = rest.area();
+    double sum = 0;
+    for (int x = 0; x <= 8; ++x) {
+        ConvexPolygon column = rest.takeColumnsUpTo(x + 0.5);
+        for (int y = 0; y <= 7; ++y) {
+            const double area = column.takeRowsUpTo(y + 0.5).area();
+            EXPECT_LE(area, 1 + 1e-12);
+            sum += area;
+        }
+    }
+    EXPECT_NEAR(sum, whole, 1e-12);
 }
 
 TEST(ShapeRenderer, PaintsEachPixelOfAStrokeOnce)
