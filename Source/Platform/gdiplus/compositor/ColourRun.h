@@ -21,15 +21,10 @@ public:
     explicit ColourRun(Pixel colour)
     {
         const std::uint32_t alpha = alphaOf(colour);
-        const auto weighted = [alpha](std::uint32_t channel) {
-            return static_cast<std::uint16_t>(channel * alpha + 128);
-        };
-        for (int i = 0; i < kLanes; ++i) {
-            const bool first = i % 2 == 0; // blue and green, else red and alpha
-            m_kept[i] = static_cast<std::uint16_t>(255 - alpha);
-            m_low[i] = weighted(first ? blueOf(colour) : redOf(colour));
-            m_high[i] = weighted(first ? greenOf(colour) : 255);
-        }
+        const auto weighted = [alpha](std::uint32_t channel) { return channel * alpha + 128; };
+        m_kept = everywhere(255 - alpha, 255 - alpha);
+        m_low = everywhere(weighted(blueOf(colour)), weighted(redOf(colour)));
+        m_high = everywhere(weighted(greenOf(colour)), weighted(255));
     }
 
     static constexpr std::size_t kHalf = kPixels / 2;
@@ -74,8 +69,14 @@ public:
 private:
     using Lanes [[gnu::vector_size(16)]] = std::uint16_t;
     using Words = std::array<std::uint64_t, 2>;
-    static constexpr int kLanes = 8;
     static constexpr std::uint64_t kAlphas = 0xFF000000'FF000000;
+
+    /// In the lanes of blue and green, and in those of red and alpha; both 16 bits.
+    static Lanes everywhere(std::uint32_t first, std::uint32_t second)
+    {
+        using Pairs [[gnu::vector_size(16)]] = std::uint32_t;
+        return std::bit_cast<Lanes>(Pairs{} + (first | second << 16));
+    }
 
     static Words load(const Pixel* pixels)
     {
