@@ -103,7 +103,7 @@ void CVQDIB::DrawCircleSelectionDefault(CVQDIB* image, LONG cx, LONG cy, LONG px
     if (!image)
         return;
     constexpr COLORREF kWhite = RGB(255, 255, 255);
-    const LONG lineAlpha = std::clamp(alpha, -32, 255 - 32) + 32;
+    const LONG lineAlpha = std::clamp<LONG>(alpha, -32, 255 - 32) + 32;
     const Gdiplus::RectF around = boxAround(cx, cy, wholeDistance(cx, cy, px, py));
     fillEllipse(image->m_pGraphics, around, vq::colourOf(colour, alpha));
     drawEllipse(image->m_pGraphics, around, vq::colourOf(kWhite, lineAlpha), 1, true);
