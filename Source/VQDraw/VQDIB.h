@@ -8,6 +8,10 @@
 #include <cstdint>
 #include <span>
 
+namespace vq {
+class KeptFont;
+}
+
 /// A 32-bit raster image that can be addressed pixel by pixel and drawn on through GDI+ at the same time.
 ///
 /// A pixel is the word `0xAARRGGBB` with straight (not premultiplied) alpha; in memory its bytes are blue, green, red,
@@ -416,10 +420,6 @@ public:
     static int InitializeGDIPlus();
     /// Stops GDI+, also at unloading the library, and is harmless when GDI+ was never started. @return always 1.
     static int ShutdownGDIPlus();
-
-    static void GetRenderingHint(Gdiplus::TextRenderingHint& hint);
-    /// Sets how text is rendered, for every image from its next text operation on. @return the value before.
-    static Gdiplus::TextRenderingHint SetRenderingHint(Gdiplus::TextRenderingHint hint);
     /// @}
 
     /// @name Drawing surfaces
@@ -437,6 +437,68 @@ public:
     HBITMAP GetBitmapHandle();
     /// Describes the pixel buffer: 32 bits, top-down rows (negative height), uncompressed.
     BITMAPINFO GetBitmapInfo() const;
+    /// @}
+
+    /// @name Text settings
+    /// They live as long as the object, also while it is empty. A fresh image has the system's `DEFAULT_GUI_FONT`,
+    /// opaque white text and no shadow; the shadow's colour is automatic, its offset (1, 1).
+    /// @{
+    /// The font of a stock object, as `DEFAULT_GUI_FONT`. What is no font changes nothing.
+    void SetFont(int stockObject);
+    void SetTextFont(LOGFONTW& font);
+    /// A null or empty font changes nothing.
+    void SetTextFont(CFont* font);
+    LOGFONTW GetFont() const { return m_LogFont; }
+    /// The font's `lfHeight` as it is: a negative one is the em's in pixels, a positive one that of the cell.
+    void SetFontSize(LONG size) { m_LogFont.lfHeight = size; }
+    LONG GetFontSize() const { return m_LogFont.lfHeight; }
+    void SetBoldFont(bool bold) { m_LogFont.lfWeight = bold ? FW_BOLD : FW_NORMAL; }
+    bool IsBoldFont() const { return m_LogFont.lfWeight > FW_NORMAL; }
+    void SetItalicFont(bool italic) { m_LogFont.lfItalic = italic; }
+    bool IsItalicFont() const { return m_LogFont.lfItalic != 0; }
+
+    /// An alpha of 255 is stored as 254, deliberately: GDI+ draws opaque text of some hints through GDI, which leaves
+    /// alpha 0 in a picture that has alpha.
+    void SetTextColor(COLORREF colour, BYTE alpha);
+    /// With alpha 255, and so 254. The last two arguments are ignored, deliberately.
+    void SetTextColor(COLORREF colour, ULONG, ULONG);
+    /// Without its alpha; 0 while GDI+ does not run.
+    COLORREF GetTextColor() const;
+
+    void EnableTextShadow(bool on);
+    /// Also ends the automatic choice of the shadow's colour, which is white under text of a luminance below 61 (of
+    /// 240) and black under lighter text.
+    void SetTextColorShadow(COLORREF colour);
+    void SetTextShadowOffset(LONG x, LONG y);
+
+    /// Move the cursor of `print`.
+    void GotoX(int x) { m_iPrintX = x; }
+    void GotoXY(int x, int y);
+
+    static void GetRenderingHint(Gdiplus::TextRenderingHint& hint);
+    /// Sets how text is rendered, for every image from its next text operation on. Not guarded: set at start-up, or by
+    /// the thread that draws. @return the value before.
+    static Gdiplus::TextRenderingHint SetRenderingHint(Gdiplus::TextRenderingHint hint);
+    /// @}
+
+    /// @name Text
+    /// Any script that an installed font covers. A null or empty text draws nothing and measures (0, 0). What GDI+
+    /// refuses leaves its status in the graphics. To draw in the same font again makes no font anew.
+    /// @{
+    /// One string, whose layout begins at (x, y): the ink begins a sixth of an em further right. With the rendering
+    /// hint AntiAlias it is drawn a second time at alpha 128, deliberately: smoothed text would look thin.
+    void TextOutW(LONG x, LONG y, CString& text);
+    void TextOutW(LONG x, LONG y, const wchar_t* text);
+
+    /// The room that a text takes, in pixels, rounded down: a sixth of an em on either side and an eighth of one below
+    /// are part of it, spaces at the end are not.
+    CSize GetTextSize(CString& text) const;
+    CSize GetTextSize(const wchar_t* text) const;
+    /// In that font. Costs a look-up for the font that was measured in before.
+    static CSize GetTextSize(const LOGFONTW& font, const CString& text);
+    static CSize GetTextSize(const LOGFONTW& font, const wchar_t* text);
+    static CSize GetTextSize(const CFont& font, const CString& text);
+    static CSize GetTextSize(const CFont& font, const wchar_t* text);
     /// @}
 
     /// @name Device contexts
@@ -512,6 +574,12 @@ protected:
     /// Applies text rendering hint and smoothing to the graphics.
     void InitializeGraphics();
 
+    /// Draw the shadow of a text nine times, at every offset of at most one pixel around the shadow's offset, in its
+    /// colour at alpha 32: soft edges, densest under the glyphs.
+    void DropTextShadow(const Gdiplus::Font& font, Gdiplus::PointF origin, const wchar_t* text);
+    void DropTextShadow(const Gdiplus::Font& font, Gdiplus::RectF layout, const Gdiplus::StringFormat& format,
+                        const wchar_t* text);
+
     /// Serialises creation and destruction of images and the use of shared GDI+ state in the whole process.
     static CCriticalSection _critSect;
     /// 0 unless GDI+ was started by `InitializeGDIPlus`.
@@ -538,6 +606,16 @@ private:
     void AddRoundRect(Gdiplus::GraphicsPath& path, CRect rect, int corner) const;
     void DrawSizeLabels(const CRect& selection);
     void DrawCornerTicks(const CRect& selection);
+    const Gdiplus::Font& TextFont() const;
+    COLORREF ShadowColour() const;
+    Gdiplus::SolidBrush* TextBrush();
+    void DrawString(const Gdiplus::Font& font, const Gdiplus::RectF& layout, const Gdiplus::StringFormat* format,
+                    const wchar_t* text);
+    void DropShadow(const Gdiplus::Font& font, const Gdiplus::RectF& layout, const Gdiplus::StringFormat* format,
+                    const wchar_t* text);
+    /// Lets go of what is kept for measuring, before GDI+ ends.
+    static void ReleaseMeasuring();
+
     int ExchangePairs(const COLORREF* from, const COLORREF* to, std::size_t count, LONG alpha);
 
     // The portable routines do the work; those named after a processor call them, so that no result depends on it.
@@ -575,4 +653,5 @@ private:
     COLORREF m_uiShadowColor;
     ULONG m_uiSpare;
     ULONG m_uiFlags;
+    mutable vq::KeptFont* m_pKeptFont; // null until text is drawn or measured
 };

@@ -4,6 +4,7 @@
 
 #include "VQDraw/image/ImageFlags.h"
 #include "VQDraw/image/ImageSize.h"
+#include "VQDraw/image/KeptFont.h"
 
 #include <algorithm>
 #include <memory>
@@ -63,6 +64,7 @@ CVQDIB::~CVQDIB()
 {
     Destroy();
     delete m_pTextBrush;
+    delete m_pKeptFont;
 }
 
 CVQDIB& CVQDIB::operator=(const CVQDIB& other)
@@ -100,6 +102,7 @@ void CVQDIB::Initialize()
     m_uiShadowColor = 0;
     m_uiSpare = 0;
     m_uiFlags = vq::kAntialias | vq::kAutomaticShadowColour;
+    m_pKeptFont = nullptr;
 }
 
 int CVQDIB::Create(int width, int height)

@@ -6,7 +6,6 @@
 #include "VQDraw/image/PixelFormulas.h"
 
 #include <algorithm>
-#include <utility>
 
 constinit ULONG_PTR CVQDIB::m_gdiplusToken = 0;
 constinit Gdiplus::TextRenderingHint CVQDIB::m_RenderingHint = Gdiplus::TextRenderingHintSingleBitPerPixelGridFit;
@@ -21,19 +20,10 @@ int CVQDIB::InitializeGDIPlus()
 
 int CVQDIB::ShutdownGDIPlus()
 {
+    ReleaseMeasuring();
     Gdiplus::GdiplusShutdown(m_gdiplusToken);
     m_gdiplusToken = 0;
     return 1;
-}
-
-void CVQDIB::GetRenderingHint(Gdiplus::TextRenderingHint& hint)
-{
-    hint = m_RenderingHint;
-}
-
-Gdiplus::TextRenderingHint CVQDIB::SetRenderingHint(Gdiplus::TextRenderingHint hint)
-{
-    return std::exchange(m_RenderingHint, hint);
 }
 
 void CVQDIB::InitializeGraphics()
