@@ -490,6 +490,31 @@ public:
     void TextOutW(LONG x, LONG y, CString& text);
     void TextOutW(LONG x, LONG y, const wchar_t* text);
 
+    /// Lays a text out in a rectangle, both of whose edges belong to it: (0, 0, 99, 19) is 100 x 20 pixels. Lines break
+    /// at line feeds and, where they do not fit, between words; all is clipped to the rectangle. A null rectangle draws
+    /// nothing.
+    /// @param format bits: 1 lines centred, 2 at the right (also together with 1); 4 the block of lines in the middle,
+    /// 8 at the bottom (also together with 4); 32 no breaks but line feeds. Others are ignored. With the rendering hint
+    /// AntiAliasGridFit bit 4 centres in whole pixels and wins over 8.
+    void DrawTextW(const CString& text, RECT* rect, UINT format);
+    /// Line by line, downwards from the top of the rectangle, each as high as it measures; lines that do not fit into
+    /// the width are cut by their height. Empty lines are left out. The first is moved by (1, 2), deliberately, and the
+    /// others stand under it. The rectangle's bottom does not count.
+    /// @param colours one for each line, an opaque background behind it, of which 0 is none; or none at all. Fewer
+    /// colours than lines throw `CInvalidArgException*`, with the lines before drawn.
+    void DrawTextW(const CString& text, RECT* rect, UINT format, const CArray<COLORREF, const COLORREF&>& colours);
+
+    /// A label in a box with round corners, which is as large as the text and the margins, from (x, y) on.
+    /// The outline is opaque, and the low 8 bits of `borderAlpha` are its width in pixels, deliberately.
+    /// @return the box; (0, 0, 0, 0), with nothing drawn, for an empty text.
+    CRect TextBox(LONG x, LONG y, const wchar_t* text, COLORREF fillColour, LONG fillAlpha, COLORREF borderColour,
+                  LONG borderAlpha, LONG marginX, LONG marginY);
+
+    /// Writes at the cursor, by the rules of `CString::Format`, and moves the cursor behind the text; when that ends in
+    /// a line feed, back to where it stood, deliberately, and down by the height of a space. An empty result moves
+    /// nothing.
+    void print(const wchar_t* format, ...);
+
     /// The room that a text takes, in pixels, rounded down: a sixth of an em on either side and an eighth of one below
     /// are part of it, spaces at the end are not.
     CSize GetTextSize(CString& text) const;
@@ -608,6 +633,7 @@ private:
     void DrawCornerTicks(const CRect& selection);
     const Gdiplus::Font& TextFont() const;
     COLORREF ShadowColour() const;
+    void FillLine(const CRect& line, COLORREF colour);
     Gdiplus::SolidBrush* TextBrush();
     void DrawString(const Gdiplus::Font& font, const Gdiplus::RectF& layout, const Gdiplus::StringFormat* format,
                     const wchar_t* text);
