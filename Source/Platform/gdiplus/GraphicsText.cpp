@@ -26,6 +26,16 @@ class BrushSink final : public vq::gdiplus::GlyphSink
 public:
     explicit BrushSink(const Painter& painter) : m_painter(painter), m_plain(painter.plainColour()) {}
 
+    void expect(const vq::gdiplus::PixelRect& rectangle) noexcept override
+    {
+        constexpr int kStep = 64 / sizeof(vq::gdiplus::Pixel); // to the next cache line
+        const vq::gdiplus::PixelView& view = m_painter.canvas().view;
+        for (int y = rectangle.top; y < rectangle.bottom; ++y) {
+            for (int x = rectangle.left; x < rectangle.right; x += kStep)
+                __builtin_prefetch(view.row(y) + x, 1);
+        }
+    }
+
     void glyph(const vq::gdiplus::GlyphCoverage& glyph) noexcept override
     {
         if (m_plain)

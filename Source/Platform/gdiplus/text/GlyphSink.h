@@ -46,6 +46,9 @@ struct GlyphCoverage
 class GlyphSink
 {
 public:
+    /// A guess, before the text is shaped, where most of its pixels will be: time to fetch them from memory.
+    virtual void expect(const PixelRect& rectangle) noexcept = 0;
+
     /// The brush through a coverage; never empty.
     virtual void glyph(const GlyphCoverage& glyph) noexcept = 0;
 

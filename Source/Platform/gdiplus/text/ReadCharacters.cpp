@@ -52,12 +52,21 @@ utf32_t asBroken(char32_t c)
     return isRegionalIndicator(c) ? U'a' : c;
 }
 
+/// Most labels are one word: they need not be looked through.
+bool mayHaveBreaks(const std::vector<char32_t>& codePoints)
+{
+    const auto next = std::ranges::adjacent_find(codePoints, mayEndLine);
+    return next != codePoints.end();
+}
+
 void markBreaks(const std::vector<char32_t>& codePoints, std::vector<Character>& characters)
 {
+    if (!mayHaveBreaks(codePoints))
+        return;
     std::vector<utf32_t> text(codePoints.size());
     std::ranges::transform(codePoints, text.begin(), asBroken);
     std::string breaks(codePoints.size(), LINEBREAK_NOBREAK);
-    init_linebreak();
+    [[maybe_unused]] static const bool isReady = (init_linebreak(), true); // the same tables at every call
     set_linebreaks_utf32(text.data(), text.size(), nullptr, breaks.data());
     for (std::size_t i = 0; i + 1 < codePoints.size(); ++i)
         if (breaks[i] == LINEBREAK_ALLOWBREAK && mayEndLine(codePoints[i], codePoints[i + 1]))

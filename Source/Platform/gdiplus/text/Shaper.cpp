@@ -122,6 +122,8 @@ void Shaper::takeGlyphs(const ShapedRun& run, std::uint32_t offset)
     const double scale = static_cast<double>(m_job.font->em) / run.face->unitsPerEm();
     const int thicker = run.emboldened ? emboldeningOf(run.face->unitsPerEm()) : 0;
     ShapedText& text = *m_job.result;
+    if (text.glyphs.empty()) // most texts are of one item
+        text.glyphs.reserve(count);
     for (unsigned i = 0; i < count; ++i) {
         const std::uint32_t character = offset + infos[i].cluster;
         const int advance = places[i].x_advance + (places[i].x_advance > 0 ? thicker : 0);

@@ -40,6 +40,22 @@ std::vector<std::size_t> charactersAt(std::span<const std::size_t> wide, const s
     return result;
 }
 
+/// Where a label of a line begins to be drawn, if it is one: its capitals, a little more than half an em wide each.
+PixelRect guessedPlace(const Font& font, std::wstring_view text, const FloatRect& layout, const TextFormat& format)
+{
+    constexpr float kLargestEm = 32; // beyond, pixels are fetched as fast as they are drawn
+    constexpr std::size_t kLongestLabel = 32;
+    constexpr float kFarthest = kEverywhere.right / 2;
+    const bool isNear = format.alignment == TextAlignment::Near && format.lineAlignment == TextAlignment::Near;
+    const bool isSane = std::fabs(layout.x) < kFarthest && std::fabs(layout.y) < kFarthest;
+    if (!isNear || !isSane || font.em > kLargestEm || text.size() > kLongestLabel)
+        return {0, 0, 0, 0};
+    const auto em = static_cast<int>(font.em);
+    const int left = static_cast<int>(layout.x) + em / 6;
+    const int baseline = static_cast<int>(layout.y) + static_cast<int>(font.pixels(font.metrics.ascent));
+    return {left, baseline - em * 3 / 4, left + static_cast<int>(text.size()) * em * 5 / 8, baseline};
+}
+
 std::ptrdiff_t offset(int row, int column, int width)
 {
     return static_cast<std::ptrdiff_t>(row) * width + column;
@@ -227,6 +243,7 @@ bool drawText(GlyphSink& sink, const Font& font, std::wstring_view text, const F
     if (!std::isfinite(layout.x) || !std::isfinite(layout.y))
         return true;
     try {
+        sink.expect(commonPart(guessedPlace(font, text, layout, format), drawing.visible));
         const EngineLock engine;
         const TextLayout lines(*engine, font, text, layout, format);
         TextPainter(*engine, sink, font, drawing, lines).paint();
