@@ -47,7 +47,7 @@ class GlyphSink
 {
 public:
     /// A guess, before the text is shaped, where most of its pixels will be: time to fetch them from memory.
-    virtual void expect(const PixelRect& rectangle) noexcept = 0;
+    virtual void expect([[maybe_unused]] const PixelRect& rectangle) noexcept {}
 
     /// The brush through a coverage; never empty.
     virtual void glyph(const GlyphCoverage& glyph) noexcept = 0;

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
-#include <iterator>
-#include <list>
-#include <unordered_set>
+#include <memory>
 #include <utility>
+#include <vector>
 
 namespace vq::gdiplus {
 
@@ -28,80 +28,108 @@ public:
     explicit LruCache(std::size_t budget) : m_budget(budget) {}
     LruCache(const LruCache&) = delete;
     LruCache& operator=(const LruCache&) = delete;
+    ~LruCache()
+    {
+        while (m_newest)
+            delete std::exchange(m_newest, m_newest->older);
+    }
 
     /// The value of a key, which becomes the most recently used; null when it is not there.
     Value* find(const View& view)
     {
-        const auto found = m_index.find(view);
-        if (found == m_index.end())
+        if (m_buckets.empty())
             return nullptr;
-        const Position position = *found;
-        if (position != m_entries.begin())
-            m_entries.splice(m_entries.begin(), m_entries, position);
-        return &position->value;
+        for (Entry* entry = bucketOf(view.hash); entry; entry = entry->chained) {
+            if (entry->hash != view.hash || !(view == entry->key))
+                continue;
+            if (entry != m_newest) {
+                unlink(*entry);
+                linkAsNewest(*entry);
+            }
+            return &entry->value;
+        }
+        return nullptr;
     }
 
     /// Adds a value whose key is not there; others leave until all costs together are within the budget. The new one
     /// always stays.
     Value& insert(Key key, Value value, std::size_t cost)
     {
-        m_entries.emplace_front(std::move(key), std::move(value), cost);
-        try {
-            m_index.insert(m_entries.begin());
-        } catch (...) {
-            m_entries.pop_front();
-            throw;
-        }
+        auto added = std::make_unique<Entry>(std::move(key), std::move(value), cost);
+        if (m_size == m_buckets.size())
+            growBuckets();
+        Entry& entry = *added.release();
+        entry.chained = std::exchange(bucketOf(entry.hash), &entry);
+        linkAsNewest(entry);
+        ++m_size;
         m_cost += cost;
-        while (m_cost > m_budget && m_entries.size() > 1)
-            dropLast();
-        return m_entries.front().value;
+        while (m_cost > m_budget && m_size > 1)
+            dropOldest();
+        __builtin_prefetch(m_oldest); // the next to leave, which nobody has looked at for long
+        return entry.value;
     }
 
-    std::size_t size() const { return m_entries.size(); }
+    std::size_t size() const { return m_size; }
     std::size_t cost() const { return m_cost; }
 
 private:
     struct Entry
     {
         Entry(Key&& ownKey, Value&& ownValue, std::size_t ownCost)
-            : key(std::move(ownKey)), value(std::move(ownValue)), cost(ownCost), hash(View(key).hash)
+            : hash(View(ownKey).hash), cost(ownCost), key(std::move(ownKey)), value(std::move(ownValue))
         {
         }
 
+        Entry* newer = nullptr;
+        Entry* older = nullptr;
+        Entry* chained = nullptr; // the next one in its bucket
+        std::size_t hash;
+        std::size_t cost;
         Key key;
         Value value;
-        std::size_t cost;
-        std::size_t hash;
-    };
-    using Position = typename std::list<Entry>::iterator;
-
-    struct Hash
-    {
-        using is_transparent = void;
-        std::size_t operator()(const View& view) const noexcept { return view.hash; }
-        std::size_t operator()(Position position) const noexcept { return position->hash; }
-    };
-    struct Equal
-    {
-        using is_transparent = void;
-        bool operator()(Position a, Position b) const noexcept { return a == b; }
-        bool operator()(const View& view, Position position) const noexcept
-        {
-            return view.hash == position->hash && view == position->key;
-        }
-        bool operator()(Position position, const View& view) const noexcept { return (*this)(view, position); }
     };
 
-    void dropLast()
+    Entry*& bucketOf(std::size_t hash) { return m_buckets[hash & (m_buckets.size() - 1)]; }
+
+    void linkAsNewest(Entry& entry)
     {
-        m_cost -= m_entries.back().cost;
-        m_index.erase(std::prev(m_entries.end()));
-        m_entries.pop_back();
+        entry.newer = nullptr;
+        entry.older = std::exchange(m_newest, &entry);
+        (entry.older ? entry.older->newer : m_oldest) = &entry;
     }
 
-    std::list<Entry> m_entries; // the most recently used first
-    std::unordered_set<Position, Hash, Equal> m_index;
+    void unlink(Entry& entry)
+    {
+        (entry.newer ? entry.newer->older : m_newest) = entry.older;
+        (entry.older ? entry.older->newer : m_oldest) = entry.newer;
+    }
+
+    /// To twice as many, a power of two.
+    void growBuckets()
+    {
+        constexpr std::size_t kFewest = 16;
+        std::vector<Entry*> buckets(std::max(2 * m_buckets.size(), kFewest));
+        m_buckets.swap(buckets);
+        for (Entry* entry = m_newest; entry; entry = entry->older)
+            entry->chained = std::exchange(bucketOf(entry->hash), entry);
+    }
+
+    void dropOldest()
+    {
+        const std::unique_ptr<Entry> dropped(m_oldest);
+        Entry** link = &bucketOf(dropped->hash);
+        while (*link != dropped.get())
+            link = &(*link)->chained;
+        *link = dropped->chained;
+        unlink(*dropped);
+        --m_size;
+        m_cost -= dropped->cost;
+    }
+
+    std::vector<Entry*> m_buckets; // at least as many as there are entries
+    Entry* m_newest = nullptr;
+    Entry* m_oldest = nullptr;
+    std::size_t m_size = 0;
     std::size_t m_budget;
     std::size_t m_cost = 0;
 };
