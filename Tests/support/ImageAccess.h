@@ -14,6 +14,16 @@ struct VQTestAccess
     static void destroy(CVQDIB& image) { image.Destroy(); }
     static void initializeGraphics(CVQDIB& image) { image.InitializeGraphics(); }
 
+    static void dropTextShadow(CVQDIB& image, const Gdiplus::Font& font, Gdiplus::PointF origin, const wchar_t* text)
+    {
+        image.DropTextShadow(font, origin, text);
+    }
+    static void dropTextShadow(CVQDIB& image, const Gdiplus::Font& font, Gdiplus::RectF layout,
+                               const Gdiplus::StringFormat& format, const wchar_t* text)
+    {
+        image.DropTextShadow(font, layout, format, text);
+    }
+
     static ULONG*& pixelBuffer(CVQDIB& image) { return image.m_pImageBuffer; }
     static Gdiplus::Bitmap* bitmap(CVQDIB& image) { return image.m_pBitmap; }
     static Gdiplus::Graphics* graphics(CVQDIB& image) { return image.m_pGraphics; }
