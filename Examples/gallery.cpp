@@ -8,7 +8,7 @@
 namespace {
 
 constexpr bool (*kSheets[])(Gallery&) = {addLines,       addDashes, addShapes,  addHatches, addGradients,
-                                         addCompositing, addTexts,  addLayouts, addScripts};
+                                         addCompositing, addTexts,  addLayouts, addScripts, addLabels};
 
 int fail(const char* reason, const char* what)
 {

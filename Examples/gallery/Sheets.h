@@ -13,3 +13,4 @@ bool addCompositing(Gallery& gallery);
 bool addTexts(Gallery& gallery);
 bool addLayouts(Gallery& gallery);
 bool addScripts(Gallery& gallery);
+bool addLabels(Gallery& gallery);
