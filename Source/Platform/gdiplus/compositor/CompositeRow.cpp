@@ -2,6 +2,7 @@
 #include "Platform/gdiplus/compositor/CompositeRow.h"
 
 #include "Platform/gdiplus/compositor/CompositePixel.h"
+#include "Platform/gdiplus/compositor/CoveredColour.h"
 
 #include <algorithm>
 #include <array>
@@ -293,16 +294,29 @@ void compositeRunOnePixelAtATime(std::span<Pixel> destination, Pixel colour)
 /// Rows up to this length are most often those of glyphs.
 constexpr std::size_t kGlyphRow = 32;
 
-/// Most pixels around a glyph's strokes are not covered, most of those in them in full.
+/// Most pixels around a glyph's strokes are not covered.
 void overGlyphRow(std::span<Pixel> destination, Pixel colour, std::span<const Channel> coverage)
 {
-    for (std::size_t i = 0; i < destination.size(); ++i) {
-        const Pixel source = withCoverage(colour, coverage[i]);
-        if (alphaOf(source) == 255)
-            destination[i] = source;
-        else if (alphaOf(source) != 0)
-            destination[i] = overPixel<StoredLight>(destination[i], source);
+    Pixel* pixel = destination.data();
+    const Channel* covered = coverage.data();
+    std::size_t left = destination.size();
+    const auto overPixels = [&](std::size_t count) {
+        for (std::size_t i = 0; i < count; ++i) {
+            if (covered[i] != 0)
+                pixel[i] = overPixel<StoredLight>(pixel[i], withCoverage(colour, covered[i]));
+        }
+    };
+    const CoveredColour four(colour);
+    for (; left >= CoveredColour::kPixels; left -= CoveredColour::kPixels) {
+        const bool isCovered = CoveredColour::coversAny(covered);
+        if (isCovered && CoveredColour::areOpaque(pixel))
+            four.overOpaque(pixel, covered);
+        else if (isCovered)
+            overPixels(CoveredColour::kPixels);
+        pixel += CoveredColour::kPixels;
+        covered += CoveredColour::kPixels;
     }
+    overPixels(left);
 }
 
 } // namespace
