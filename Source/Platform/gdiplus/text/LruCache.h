@@ -56,10 +56,10 @@ public:
     Value& insert(Key key, Value value, std::size_t cost)
     {
         auto added = std::make_unique<Entry>(std::move(key), std::move(value), cost);
-        if (m_size == m_buckets.size())
+        if (2 * m_size >= m_buckets.size())
             growBuckets();
         Entry& entry = *added.release();
-        entry.chained = std::exchange(bucketOf(entry.hash), &entry);
+        chain(entry);
         linkAsNewest(entry);
         ++m_size;
         m_cost += cost;
@@ -83,6 +83,7 @@ private:
         Entry* newer = nullptr;
         Entry* older = nullptr;
         Entry* chained = nullptr; // the next one in its bucket
+        Entry** from = nullptr;   // what points to this one in its bucket
         std::size_t hash;
         std::size_t cost;
         Key key;
@@ -90,6 +91,21 @@ private:
     };
 
     Entry*& bucketOf(std::size_t hash) { return m_buckets[hash & (m_buckets.size() - 1)]; }
+
+    void chain(Entry& entry)
+    {
+        entry.from = &bucketOf(entry.hash);
+        entry.chained = std::exchange(*entry.from, &entry);
+        if (entry.chained)
+            entry.chained->from = &entry.chained;
+    }
+
+    void unchain(Entry& entry)
+    {
+        *entry.from = entry.chained;
+        if (entry.chained)
+            entry.chained->from = entry.from;
+    }
 
     void linkAsNewest(Entry& entry)
     {
@@ -111,22 +127,19 @@ private:
         std::vector<Entry*> buckets(std::max(2 * m_buckets.size(), kFewest));
         m_buckets.swap(buckets);
         for (Entry* entry = m_newest; entry; entry = entry->older)
-            entry->chained = std::exchange(bucketOf(entry->hash), entry);
+            chain(*entry);
     }
 
     void dropOldest()
     {
         const std::unique_ptr<Entry> dropped(m_oldest);
-        Entry** link = &bucketOf(dropped->hash);
-        while (*link != dropped.get())
-            link = &(*link)->chained;
-        *link = dropped->chained;
+        unchain(*dropped);
         unlink(*dropped);
         --m_size;
         m_cost -= dropped->cost;
     }
 
-    std::vector<Entry*> m_buckets; // at least as many as there are entries
+    std::vector<Entry*> m_buckets; // at least twice as many as there are entries: most hold one or none
     Entry* m_newest = nullptr;
     Entry* m_oldest = nullptr;
     std::size_t m_size = 0;
