@@ -18,9 +18,9 @@ constexpr UINT kMiddle = 4;
 constexpr UINT kBottom = 8;
 constexpr UINT kUnbroken = 32;
 
-Gdiplus::StringAlignment alignmentOf(bool centred, bool far)
+Gdiplus::StringAlignment alignmentOf(bool centred, bool atTheEnd)
 {
-    if (far)
+    if (atTheEnd)
         return Gdiplus::StringAlignmentFar;
     return centred ? Gdiplus::StringAlignmentCenter : Gdiplus::StringAlignmentNear;
 }
