@@ -8,28 +8,6 @@
 
 namespace {
 
-/// Fills have hard edges for as long as it lives, where they had smooth ones.
-class HardEdges
-{
-public:
-    HardEdges(Gdiplus::Graphics& graphics, bool smooth) : m_graphics(graphics), m_smooth(smooth)
-    {
-        if (m_smooth)
-            m_graphics.SetSmoothingMode(Gdiplus::SmoothingModeNone);
-    }
-    ~HardEdges()
-    {
-        if (m_smooth)
-            m_graphics.SetSmoothingMode(Gdiplus::SmoothingModeAntiAlias);
-    }
-    HardEdges(const HardEdges&) = delete;
-    HardEdges& operator=(const HardEdges&) = delete;
-
-private:
-    Gdiplus::Graphics& m_graphics;
-    bool m_smooth;
-};
-
 CRect normalised(CRect rect)
 {
     rect.NormalizeRect();
@@ -85,7 +63,7 @@ void CVQDIB::Draw3DRect(CRect& rect, COLORREF topLeft, COLORREF bottomRight, LON
 void CVQDIB::FillRect(CRect rect, COLORREF colour, LONG alpha)
 {
     vq::fillWithColour(m_pGraphics, vq::colourOf(colour, alpha), [&](Gdiplus::Graphics& graphics, const auto& brush) {
-        const HardEdges hardEdges(graphics, IsEnableAntialias());
+        const vq::HardEdges hardEdges(graphics, IsEnableAntialias());
         graphics.FillRectangle(&brush, Reachable(normalised(rect)));
     });
 }
@@ -94,7 +72,7 @@ void CVQDIB::FillRect(CRect rect, Gdiplus::LinearGradientBrush& brush)
 {
     if (!m_pGraphics)
         return;
-    const HardEdges hardEdges(*m_pGraphics, IsEnableAntialias());
+    const vq::HardEdges hardEdges(*m_pGraphics, IsEnableAntialias());
     m_pGraphics->FillRectangle(&brush, Reachable(normalised(rect)));
 }
 

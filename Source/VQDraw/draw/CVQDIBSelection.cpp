@@ -2,21 +2,14 @@
 // The selection that a rectangle makes.
 #include "VQDraw/VQDIB.h"
 
-#include <algorithm>
+#include "VQDraw/draw/TextArguments.h"
+
 #include <cstdint>
-#include <limits>
 #include <string>
 
 namespace {
 
 constexpr COLORREF kWhite = RGB(255, 255, 255);
-
-/// Sums of coordinates are made in 64 bits: beyond 32 they are out of sight, wherever that is.
-LONG toCoordinate(std::int64_t value)
-{
-    using Limits = std::numeric_limits<LONG>;
-    return static_cast<LONG>(std::clamp<std::int64_t>(value, Limits::min(), Limits::max()));
-}
 
 } // namespace
 
@@ -58,13 +51,13 @@ void CVQDIB::DrawSizeLabels(const CRect& selection)
     const CSize heightSize = GetTextSize(heightText.c_str());
     if (widthSize.cx < width) {
         const std::int64_t above = top - widthSize.cy - 2;
-        TextOutW(toCoordinate(left + ((width - widthSize.cx) >> 1)), toCoordinate(above < 0 ? top + 4 : above),
+        TextOutW(vq::toCoordinate(left + ((width - widthSize.cx) >> 1)), vq::toCoordinate(above < 0 ? top + 4 : above),
                  widthText.c_str());
     }
     if (heightSize.cy < height) {
         const bool fitsBeside = right + 2 + heightSize.cx < m_iWidth;
-        TextOutW(toCoordinate(fitsBeside ? right + 2 : right - heightSize.cx - 2),
-                 toCoordinate(top + ((height - heightSize.cy) >> 1)), heightText.c_str());
+        TextOutW(vq::toCoordinate(fitsBeside ? right + 2 : right - heightSize.cx - 2),
+                 vq::toCoordinate(top + ((height - heightSize.cy) >> 1)), heightText.c_str());
     }
 }
 
@@ -72,10 +65,10 @@ void CVQDIB::DrawCornerTicks(const CRect& selection)
 {
     constexpr std::int64_t kTick = 5;
     const auto [left, top, right, bottom] = static_cast<const RECT&>(selection);
-    const LONG fromLeft = toCoordinate(left + kTick);
-    const LONG fromTop = toCoordinate(top + kTick);
-    const LONG fromRight = toCoordinate(right - kTick);
-    const LONG fromBottom = toCoordinate(bottom - kTick);
+    const LONG fromLeft = vq::toCoordinate(left + kTick);
+    const LONG fromTop = vq::toCoordinate(top + kTick);
+    const LONG fromRight = vq::toCoordinate(right - kTick);
+    const LONG fromBottom = vq::toCoordinate(bottom - kTick);
     LineV(top, fromTop, left, kWhite, 255);
     LineH(left, fromLeft, top, kWhite, 255);
     LineH(fromRight, right, top, kWhite, 255);

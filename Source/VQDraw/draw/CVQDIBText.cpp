@@ -2,9 +2,9 @@
 // Single strings and their shadows.
 #include "VQDraw/VQDIB.h"
 
+#include "VQDraw/draw/Ink.h"
 #include "VQDraw/draw/TextArguments.h"
 #include "VQDraw/image/ImageFlags.h"
-#include "VQDraw/image/PixelFormulas.h"
 
 namespace {
 
@@ -45,7 +45,7 @@ void CVQDIB::DrawString(const Gdiplus::Font& font, const Gdiplus::RectF& layout,
     m_pGraphics->DrawString(text, -1, &font, layout, format, brush);
     if (m_RenderingHint != Gdiplus::TextRenderingHintAntiAlias)
         return;
-    const Gdiplus::SolidBrush second(Gdiplus::Color(vq::pixelFromColorRef(GetTextColor(), kSecondTextAlpha)));
+    const Gdiplus::SolidBrush second(vq::colourOf(GetTextColor(), kSecondTextAlpha));
     m_pGraphics->DrawString(text, -1, &font, layout, format, &second);
 }
 
@@ -66,7 +66,7 @@ void CVQDIB::DropShadow(const Gdiplus::Font& font, const Gdiplus::RectF& layout,
 {
     if (!m_pGraphics || vq::isEmptyText(text))
         return;
-    const Gdiplus::SolidBrush brush(Gdiplus::Color(vq::pixelFromColorRef(ShadowColour(), kShadowAlpha)));
+    const Gdiplus::SolidBrush brush(vq::colourOf(ShadowColour(), kShadowAlpha));
     const Gdiplus::REAL x = layout.X + static_cast<Gdiplus::REAL>(m_iShadowX);
     const Gdiplus::REAL y = layout.Y + static_cast<Gdiplus::REAL>(m_iShadowY);
     for (const Offset& offset : kShadowOffsets) {

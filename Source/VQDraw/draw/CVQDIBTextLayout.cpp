@@ -2,9 +2,9 @@
 // Text in rectangles.
 #include "VQDraw/VQDIB.h"
 
+#include "VQDraw/draw/Ink.h"
 #include "VQDraw/draw/MeasuringSurface.h"
 #include "VQDraw/draw/TextArguments.h"
-#include "VQDraw/image/PixelFormulas.h"
 
 #include <cmath>
 
@@ -96,11 +96,8 @@ void CVQDIB::DrawTextW(const CString& text, RECT* rect, UINT format, const CArra
 /// The lines after the first are filled as their rectangle stands: one from right to left has no background.
 void CVQDIB::FillLine(const CRect& line, COLORREF colour)
 {
-    const Gdiplus::SolidBrush brush(Gdiplus::Color(vq::pixelFromColorRef(colour, 255)));
-    const bool isSmooth = IsEnableAntialias();
-    if (isSmooth)
-        m_pGraphics->SetSmoothingMode(Gdiplus::SmoothingModeNone);
-    m_pGraphics->FillRectangle(&brush, line.left, line.top, line.Width(), line.Height());
-    if (isSmooth)
-        m_pGraphics->SetSmoothingMode(Gdiplus::SmoothingModeAntiAlias);
+    vq::fillWithColour(m_pGraphics, vq::colourOf(colour, 255), [&](Gdiplus::Graphics& graphics, const auto& brush) {
+        const vq::HardEdges hardEdges(graphics, IsEnableAntialias());
+        graphics.FillRectangle(&brush, line.left, line.top, line.Width(), line.Height());
+    });
 }

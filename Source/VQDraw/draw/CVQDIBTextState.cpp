@@ -2,9 +2,9 @@
 // Font, colours, shadow and cursor of an image's text.
 #include "VQDraw/VQDIB.h"
 
+#include "VQDraw/draw/Ink.h"
 #include "VQDraw/image/ImageFlags.h"
 #include "VQDraw/image/KeptFont.h"
-#include "VQDraw/image/PixelFormulas.h"
 
 #include <algorithm>
 #include <memory>
@@ -48,7 +48,7 @@ void CVQDIB::SetTextFont(CFont* font)
 void CVQDIB::SetTextColor(COLORREF colour, BYTE alpha)
 {
     constexpr BYTE kHighest = 254;
-    const Gdiplus::Color colourWithAlpha(vq::pixelFromColorRef(colour, std::min(alpha, kHighest)));
+    const Gdiplus::Color colourWithAlpha = vq::colourOf(colour, std::min(alpha, kHighest));
     if (!m_pTextBrush || m_pTextBrush->SetColor(colourWithAlpha) != Gdiplus::Ok)
         delete std::exchange(m_pTextBrush, makeBrush(colourWithAlpha));
 }

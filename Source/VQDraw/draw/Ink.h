@@ -61,4 +61,26 @@ inline void makeRoundDots(Gdiplus::Pen& pen)
     pen.SetDashStyle(Gdiplus::DashStyleDot);
 }
 
+/// Fills have hard edges for as long as it lives, where they had smooth ones.
+class HardEdges
+{
+public:
+    HardEdges(Gdiplus::Graphics& graphics, bool smooth) : m_graphics(graphics), m_smooth(smooth)
+    {
+        if (m_smooth)
+            m_graphics.SetSmoothingMode(Gdiplus::SmoothingModeNone);
+    }
+    ~HardEdges()
+    {
+        if (m_smooth)
+            m_graphics.SetSmoothingMode(Gdiplus::SmoothingModeAntiAlias);
+    }
+    HardEdges(const HardEdges&) = delete;
+    HardEdges& operator=(const HardEdges&) = delete;
+
+private:
+    Gdiplus::Graphics& m_graphics;
+    bool m_smooth;
+};
+
 } // namespace vq
