@@ -7,5 +7,6 @@
 
 #include "Platform/Export.h"
 #include "Platform/PixelMemory.h"
+#include "Platform/ReplacementFile.h"
 #include "Platform/System.h"
 #include "Platform/afx/Afx.h"

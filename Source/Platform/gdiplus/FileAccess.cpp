@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/gdiplus/FileAccess.h"
 
+#include "Platform/ReplacementFile.h"
+
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <filesystem>
-#include <string>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -64,27 +64,6 @@ bool writeAll(int file, std::span<const std::uint8_t> bytes)
     return true;
 }
 
-/// Where a path leads in the end; the path itself when nothing is there.
-std::string resolved(const std::string& path)
-{
-    std::error_code error;
-    const auto target = std::filesystem::canonical(path, error);
-    return error ? path : target.string();
-}
-
-/// A new file beside `path` with its name in `name`.
-Descriptor createBeside(const std::string& path, mode_t permissions, std::string& name)
-{
-    constexpr int kAttempts = 1000; // names that earlier crashes left behind, or that other programs use just now
-    for (int attempt = 0; attempt < kAttempts; ++attempt) {
-        name = path + ".new" + std::to_string(attempt);
-        const int file = ::open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, permissions);
-        if (file >= 0 || errno != EEXIST)
-            return Descriptor(file);
-    }
-    return Descriptor(-1);
-}
-
 } // namespace
 
 std::optional<FileBytes> readFile(LPCWSTR path)
@@ -125,23 +104,11 @@ std::optional<FileBytes> readStream(IStream& stream)
 
 bool replaceFile(LPCWSTR path, std::span<const std::uint8_t> bytes)
 {
-    const std::string target = resolved(win32::nativePath(path));
-    struct stat old;
-    const bool exists = ::stat(target.c_str(), &old) == 0;
-    if (exists && (!S_ISREG(old.st_mode) || (old.st_mode & 0222) == 0))
+    platform::ReplacementFile replacement(path);
+    if (!replacement.isReady())
         return false;
-
-    constexpr mode_t kEverybody = 0666; // less what the process masks out
-    std::string name;
-    Descriptor file = createBeside(target, kEverybody, name);
-    if (!file.isOpen())
-        return false;
-    const bool written = (!exists || ::fchmod(file.number(), old.st_mode & 07777) == 0) &&
-                         writeAll(file.number(), bytes) && file.close();
-    if (written && ::rename(name.c_str(), target.c_str()) == 0)
-        return true;
-    ::unlink(name.c_str());
-    return false;
+    Descriptor file(::open(win32::nativePath(replacement.path()).c_str(), O_WRONLY | O_CLOEXEC));
+    return file.isOpen() && writeAll(file.number(), bytes) && file.close() && replacement.commit();
 }
 
 bool writeStream(IStream& stream, std::span<const std::uint8_t> bytes)

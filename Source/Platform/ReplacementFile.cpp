@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: MIT
+#include "Platform/ReplacementFile.h"
+
+#if !defined(_WIN32)
+#include "Platform/win32/Strings.h"
+
+#include <cstdlib>
+#include <fcntl.h>
+#include <memory>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
+namespace vq::platform {
+namespace {
+
+enum class Made { Yes, NameIsTaken, No };
+
+#if defined(_WIN32)
+
+std::wstring resolved(LPCWSTR path)
+{
+    return path;
+}
+
+Made makeFile(const std::wstring& name, const std::wstring&)
+{
+    const HANDLE file =
+        CreateFileW(name.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (file != INVALID_HANDLE_VALUE) {
+        CloseHandle(file);
+        return Made::Yes;
+    }
+    return GetLastError() == ERROR_FILE_EXISTS ? Made::NameIsTaken : Made::No;
+}
+
+#else
+
+struct Free
+{
+    void operator()(char* text) const { std::free(text); }
+};
+
+/// Where a path leads in the end; the path itself when nothing is there.
+std::wstring resolved(LPCWSTR path)
+{
+    const std::unique_ptr<char, Free> target(realpath(win32::nativePath(path).c_str(), nullptr));
+    return target ? win32::fromUtf8(target.get()) : path;
+}
+
+Made makeFile(const std::wstring& name, const std::wstring& target)
+{
+    constexpr mode_t kEverybody = 0666; // less what the process masks out
+    const int file = open(win32::nativePath(name.c_str()).c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, kEverybody);
+    if (file < 0)
+        return errno == EEXIST ? Made::NameIsTaken : Made::No;
+    struct stat old;
+    const bool hasPermissions =
+        stat(win32::nativePath(target.c_str()).c_str(), &old) != 0 || fchmod(file, old.st_mode & 07777) == 0;
+    close(file);
+    if (hasPermissions)
+        return Made::Yes;
+    DeleteFileW(name.c_str());
+    return Made::No;
+}
+
+#endif
+
+/// Whether a file may come to stand there.
+bool isPlaceForFile(const std::wstring& path)
+{
+    const DWORD attributes = GetFileAttributesW(path.c_str());
+    return attributes == INVALID_FILE_ATTRIBUTES ||
+           (attributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY)) == 0;
+}
+
+} // namespace
+
+ReplacementFile::ReplacementFile(LPCWSTR path)
+{
+    if (!path || !*path)
+        return;
+    m_target = resolved(path);
+    if (!isPlaceForFile(m_target))
+        return;
+    constexpr int kAttempts = 1000; // names that earlier crashes left behind, or that other programs use just now
+    for (int attempt = 0; attempt < kAttempts; ++attempt) {
+        std::wstring name = m_target + L".new" + std::to_wstring(attempt);
+        const Made made = makeFile(name, m_target);
+        if (made == Made::Yes)
+            m_name = std::move(name);
+        if (made != Made::NameIsTaken)
+            return;
+    }
+}
+
+ReplacementFile::~ReplacementFile()
+{
+    if (isReady())
+        DeleteFileW(path());
+}
+
+bool ReplacementFile::commit()
+{
+    if (!isReady() || !MoveFileExW(path(), m_target.c_str(), MOVEFILE_REPLACE_EXISTING))
+        return false;
+    m_name.clear();
+    return true;
+}
+
+} // namespace vq::platform

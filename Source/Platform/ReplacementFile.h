@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Platform/Export.h"
+#include "Platform/System.h"
+
+#include <string>
+
+namespace vq::platform {
+
+/// A new file beside the one that it shall replace, which it does in one step: a failure, a full disk or a crash leaves
+/// an old file whole.
+///
+/// A link is followed. The permissions of an old file are kept where the system has such; a folder, and a file that
+/// nobody may write, are never replaced.
+class VQPLATFORM_API ReplacementFile
+{
+public:
+    /// Makes an empty file with a name of its own beside `path`.
+    explicit ReplacementFile(LPCWSTR path);
+    /// Removes the new file unless it has taken its place.
+    ~ReplacementFile();
+    ReplacementFile(const ReplacementFile&) = delete;
+    ReplacementFile& operator=(const ReplacementFile&) = delete;
+
+    /// Whether there is a file to write.
+    bool isReady() const { return !m_name.empty(); }
+    /// The name of the file to write, for as long as it has not been put into its place.
+    LPCWSTR path() const { return m_name.c_str(); }
+    /// Puts the file, which must be closed by now, into its place. False, and nothing has changed, when that fails.
+    [[nodiscard]] bool commit();
+
+private:
+    std::wstring m_target;
+    std::wstring m_name; // empty: there is none
+};
+
+} // namespace vq::platform
