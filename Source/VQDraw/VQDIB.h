@@ -6,8 +6,10 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstdio>
 #include <span>
 
+class CVQArchive;
 namespace vq {
 class KeptFont;
 }
@@ -39,6 +41,11 @@ public:
     /// The bitmap's pixels, drawn one to one whatever its resolution: pixels of alpha 0 become 0. Of a null or broken
     /// bitmap the image is empty. The bitmap stays the caller's.
     explicit CVQDIB(Gdiplus::Bitmap* bitmap);
+    /// A picture by `LoadBMP` with its alpha by `LoadMaskBMP`. Where the first fails, the image is 4 x 4 and cleared.
+    CVQDIB(CString imageFile, CString maskFile);
+    /// The picture in a file, as `Load` reads it; empty when there is no such file.
+    explicit CVQDIB(CString file);
+    CVQDIB(CString file, COLORREF colour, LONG alpha);
     ~CVQDIB();
 
     /// Copies flags, shadow colour, shadow offset and all pixels. Font, print cursor and text colour stay,
@@ -552,6 +559,83 @@ public:
     void DumpAlphaToDesktop(LONG x, LONG y);
     /// @}
 
+    /// @name Files
+    /// A path may use `\\` or `/` to separate its parts. What is written is written beside and renamed: a failure
+    /// leaves an old file whole. Files are read whole or not at all: one that is damaged, cut off or lies about its
+    /// size takes no more memory than it has bytes to show for.
+    /// @{
+
+    /// The formats of `WriteFileFromBitmap`.
+    enum eImageFormatType : int { IFT_BMP, IFT_JPEG, IFT_GIF, IFT_TIFF, IFT_PNG, IFT_END };
+
+    /// Takes the picture in a file of any format that GDI+ reads, one to one whatever its resolution: of an animation
+    /// or a file of several pages the first picture. Pixels of alpha 0 become 0. @return whether the file exists: one
+    /// that cannot be read, or is too large for memory, gives true and a cleared image of 1 x 1, deliberately. False
+    /// leaves the image as it was.
+    bool Load(CString path);
+    /// As above, with the picture drawn over a background: `alpha` modulo 256, the top byte of the colour ignored.
+    /// Partly transparent pixels are blended in linear light. @return 1 when the file exists, else 0.
+    int Load(CString path, COLORREF colour, LONG alpha);
+
+    /// Writes the format that the last four characters of the path say, in letters of either size: ".bmp" (32 bits),
+    /// ".jpg" (quality 100, alpha dropped), ".gif", "tiff", ".png". To any other path ".png" is appended, also to one
+    /// in
+    /// ".tif", deliberately. @return false for an empty path only: whether a file could be written is not told. An
+    /// empty image writes none.
+    bool Save(CString path);
+
+    /// Finds GDI+'s encoder for a MIME type, which is compared letter by letter. @return its index among the encoders;
+    /// -1, and `*clsid` is left alone, when there is none or an argument is null.
+    static int GetEncoderClsid(const wchar_t* mimeType, CLSID* clsid);
+
+    /// Takes the picture of an uncompressed Windows bitmap of 24 bits a pixel, rows from the bottom up; alpha is 255.
+    /// @return false, and the image stays as it was, for anything else: another depth, rows from the top down, a header
+    /// or rows cut off. Should GDI+ refuse, the image is empty.
+    bool LoadBMP(CString path);
+    /// Sets alpha from the red of such a file, plus 64 and 255 at most, deliberately: black gives 64, never 0. Colours
+    /// stay. A mask of another size counts where both overlap, top left on top left. @return as `LoadBMP`.
+    bool LoadMaskBMP(CString path);
+
+    /// Takes the bitmap with this number from the library's resources, those in the user's language first, or else from
+    /// the program's. @return false when there is none.
+    bool LoadBitmapW(UINT resourceId, bool resize);
+    /// Takes the pixels of a bitmap, opaque, into the top left corner of the image, which first gets the bitmap's size
+    /// if `resize` is set. The bitmap must not be selected into a device context. @return false for null, or an object
+    /// without a bitmap.
+    bool LoadBitmapW(CBitmap* bitmap, bool resize);
+
+    /// For diagnosis: writes the pixel buffer as a Windows bitmap of 32 bits with rows from the top. ".bmp" is appended
+    /// to a path that does not end so. The header's `bfSize` counts the pixels only, deliberately. @return whether all
+    /// was written; false, without a file, for an empty image.
+    bool DumpToBMP(CString path);
+    /// The same with alpha as a grey picture, whose fourth byte is 0.
+    bool DumpAlphaToBMP(CString path);
+    /// @}
+
+    /// @name Pictures in archives and streams
+    /// A picture is stored as a length of four bytes, the lowest first, and that many bytes of an encoded file. An
+    /// archive that ends too early throws its `CArchiveException*`; a stream then gives false. Memory grows with what
+    /// arrives. A block whose picture cannot be decoded is passed over in full.
+    /// @{
+    /// Takes a picture of any format, drawn onto a cleared image. @return false, and the image stays as it was, when
+    /// there is none, it cannot be decoded, or memory cannot be had.
+    bool ReadFile(CVQArchive* archive);
+    /// Stores the image as PNG, of an empty image a length of 0. @return false when it could not be encoded, which also
+    /// stores a length of 0, or the archive is null.
+    bool WriteFile(CVQArchive* archive);
+
+    /// @param[out] bitmap the caller's to delete; null unless true is returned.
+    static bool ReadFileToBitmap(CVQArchive* archive, Gdiplus::Bitmap*& bitmap);
+    static bool ReadFileToBitmap(std::FILE* file, Gdiplus::Bitmap*& bitmap);
+    /// As `WriteFile`; of a null bitmap a length of 0.
+    static bool WriteFileFromBitmap(Gdiplus::Bitmap* bitmap, CVQArchive* archive);
+    /// Writes any of the five formats, with the length before it if asked for. @return false, and nothing is written,
+    /// when the format is none of them or the bitmap cannot be encoded. A stream that takes less than all says so by
+    /// `ferror`, not here.
+    static bool WriteFileFromBitmap(Gdiplus::Bitmap* bitmap, std::FILE* file, eImageFormatType format,
+                                    bool writeLength);
+    /// @}
+
     /// @name Dispatch
     /// Routines are called through these slots. Both switches store the same portable routines, deliberately: no
     /// result depends on the processor. To be called at start-up, before other threads use images.
@@ -619,6 +703,8 @@ private:
     int Allocate(int width, int height, void* (*allocator)(std::size_t) noexcept);
     bool Adopt(ULONG* pixels, LONG width, LONG height);
     ULONG* Detach();
+    void DrawWhole(Gdiplus::Bitmap& picture);
+    void CreateOrBlank(Gdiplus::Bitmap& picture);
     std::int64_t RowOffset(LONG y) const;
     bool HasRow(LONG y) const { return y >= 0 && y < m_iHeight; }
     CRect ClipInclusive(CRect rect) const;

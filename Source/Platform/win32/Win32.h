@@ -4,6 +4,7 @@
 /// @file
 /// The subset of Win32 that is in use, where there is no Windows. One header a subject.
 
+#include "Platform/win32/BitmapResources.h"
 #include "Platform/win32/Bitmaps.h"
 #include "Platform/win32/DeviceContexts.h"
 #include "Platform/win32/Drawing.h"

@@ -3,7 +3,7 @@
 #include "VQDraw/VQDIB.h"
 
 #include "VQDraw/draw/Ink.h"
-#include "VQDraw/image/SourceCopy.h"
+#include "VQDraw/image/GraphicsSettings.h"
 
 #include <algorithm>
 #include <memory>

@@ -2,6 +2,7 @@
 // Life cycle and addressing of the image.
 #include "VQDraw/VQDIB.h"
 
+#include "VQDraw/image/GraphicsSettings.h"
 #include "VQDraw/image/ImageFlags.h"
 #include "VQDraw/image/ImageSize.h"
 #include "VQDraw/image/KeptFont.h"
@@ -53,11 +54,17 @@ CVQDIB::CVQDIB(Gdiplus::Bitmap* bitmap)
     if (width < 1 || height < 1 || !Create(width, height))
         return;
     const CSingleLock lock(&_critSect, TRUE);
-    m_pGraphics->SetCompositingMode(Gdiplus::CompositingModeSourceCopy);
-    m_pGraphics->SetCompositingQuality(Gdiplus::CompositingQualityHighQuality);
-    m_pGraphics->DrawImage(bitmap, Gdiplus::Rect(0, 0, width, height), 0, 0, width, height, Gdiplus::UnitPixel);
-    m_pGraphics->SetCompositingQuality(Gdiplus::CompositingQualityDefault);
-    m_pGraphics->SetCompositingMode(Gdiplus::CompositingModeSourceOver);
+    const vq::SourceCopy mode(*m_pGraphics);
+    const vq::HighQuality quality(*m_pGraphics);
+    DrawWhole(*bitmap);
+}
+
+/// Draws a picture of the image's size pixel on pixel: the forms of DrawImage that take a point would scale it by its
+/// resolution.
+void CVQDIB::DrawWhole(Gdiplus::Bitmap& picture)
+{
+    m_pGraphics->DrawImage(&picture, Gdiplus::Rect(0, 0, m_iWidth, m_iHeight), 0, 0, m_iWidth, m_iHeight,
+                           Gdiplus::UnitPixel);
 }
 
 CVQDIB::~CVQDIB()

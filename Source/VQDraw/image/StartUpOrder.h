@@ -10,6 +10,7 @@ namespace vq {
 enum StartUpOrder {
     kModuleObject = 10,
     kImageLock = 30,
+    kTextureLock = 40,
 };
 
 } // namespace vq
