@@ -1,0 +1,31 @@
+# SPDX-License-Identifier: MIT
+# vq_bitmap_resources(target NUMBER=FILE.bmp ...): bitmaps that a program or library carries with it, for LoadBitmapW.
+# On Windows they are its resources; elsewhere it puts them into the table of the process when it is loaded.
+function(vq_bitmap_resources target)
+    set(files)
+    set(script "")
+    set(rows "")
+    foreach(entry IN LISTS ARGN)
+        string(REGEX MATCH "^([0-9]+)=(.+)$" whole "${entry}")
+        set(number ${CMAKE_MATCH_1})
+        set(file ${CMAKE_MATCH_2})
+        list(APPEND files ${file})
+        string(APPEND script "${number} BITMAP \"${file}\"\n")
+        file(READ ${file} digits HEX)
+        string(REGEX REPLACE "([0-9a-f][0-9a-f])" "0x\\1," bytes "${digits}")
+        string(APPEND rows "constexpr BYTE kBitmap${number}[]{${bytes}};\n"
+            "[[maybe_unused]] const bool kIsKnown${number} = "
+            "vq::win32::setBitmapResource(${number}, kBitmap${number}, sizeof kBitmap${number});\n")
+    endforeach()
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${files})
+    if(WIN32)
+        enable_language(RC)
+        set(source ${CMAKE_CURRENT_BINARY_DIR}/${target}-bitmaps.rc)
+        file(CONFIGURE OUTPUT ${source} CONTENT "${script}" @ONLY)
+        set_source_files_properties(${source} PROPERTIES OBJECT_DEPENDS "${files}")
+    else()
+        set(source ${CMAKE_CURRENT_BINARY_DIR}/${target}-bitmaps.cpp)
+        file(CONFIGURE OUTPUT ${source} CONTENT "#include \"Platform/Platform.h\"\nnamespace {\n${rows}}\n" @ONLY)
+    endif()
+    target_sources(${target} PRIVATE ${source})
+endfunction()
