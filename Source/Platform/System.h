@@ -11,6 +11,7 @@
 #include <objidl.h>
 
 #include <gdiplus.h>
+#include <share.h>
 #include <shlwapi.h>
 #else
 #include "Platform/gdiplus/Gdiplus.h"
