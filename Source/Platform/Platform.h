@@ -5,6 +5,7 @@
 /// Everything above this folder is written once, against Windows names, and includes this file and nothing of the
 /// system. The framework classes (`CString`, `CArray`, `CDC` ...) are the project's own on both systems.
 
+#include "Platform/DecodedPixels.h"
 #include "Platform/Export.h"
 #include "Platform/PixelMemory.h"
 #include "Platform/ReplacementFile.h"

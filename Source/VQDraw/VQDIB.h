@@ -590,7 +590,7 @@ public:
 
     /// Takes the picture of an uncompressed Windows bitmap of 24 bits a pixel, rows from the bottom up; alpha is 255.
     /// @return false, and the image stays as it was, for anything else: another depth, rows from the top down, a header
-    /// or rows cut off. Should GDI+ refuse, the image is empty.
+    /// or rows cut off.
     bool LoadBMP(CString path);
     /// Sets alpha from the red of such a file, plus 64 and 255 at most, deliberately: black gives 64, never 0. Colours
     /// stay. A mask of another size counts where both overlap, top left on top left. @return as `LoadBMP`.
@@ -703,7 +703,9 @@ private:
     int Allocate(int width, int height, void* (*allocator)(std::size_t) noexcept);
     bool Adopt(ULONG* pixels, LONG width, LONG height);
     ULONG* Detach();
+    void ExchangePicture(CVQDIB& other);
     void DrawWhole(Gdiplus::Bitmap& picture);
+    bool Take(Gdiplus::Bitmap& picture);
     void CreateOrBlank(Gdiplus::Bitmap& picture);
     std::int64_t RowOffset(LONG y) const;
     bool HasRow(LONG y) const { return y >= 0 && y < m_iHeight; }

@@ -72,6 +72,7 @@ inline constexpr std::array kKnownDifferences{
     KnownDifference{"line breaks among fitted characters", "counted", "not counted at the end", "Wine skips them"},
     KnownDifference{"raster fonts", "NotTrueTypeFont", "a similar outline font", "Wine has no raster fonts installed"},
     KnownDifference{"faces of Windows", "found; our layer has stand-ins", "not found", "Wine runs with DejaVu fonts only"},
+    KnownDifference{"damaged pictures", "refused", "some crash, some keep their file open", "Wine's decoders of TIFF and BMP"},
     KnownDifference{"screen without a display", "a desktop in memory", "drawing has no effect", "Wine's driver for no display drops it"},
 };
 // clang-format on

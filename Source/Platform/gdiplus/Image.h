@@ -15,6 +15,9 @@
 namespace vq::gdiplus {
 struct PixelStore;
 }
+namespace vq::platform {
+struct PixelTaker;
+}
 
 namespace Gdiplus {
 
@@ -24,6 +27,7 @@ class VQPLATFORM_API Image : public GdiplusBase
 {
     friend class Bitmap;
     friend class Graphics;
+    friend struct vq::platform::PixelTaker;
 
 public:
     /// A file that is missing or cannot be decoded leaves `OutOfMemory` in the status, as GDI+ does.

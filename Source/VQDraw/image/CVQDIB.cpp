@@ -59,6 +59,22 @@ CVQDIB::CVQDIB(Gdiplus::Bitmap* bitmap)
     DrawWhole(*bitmap);
 }
 
+/// Exchanges pixels, bitmap and graphics with another image; what belongs to text and drawing stays with each.
+void CVQDIB::ExchangePicture(CVQDIB& other)
+{
+    const CSingleLock lock(&_critSect, TRUE);
+    std::swap(m_pImageBuffer, other.m_pImageBuffer);
+    std::swap(m_pBitmap, other.m_pBitmap);
+    std::swap(m_pGraphics, other.m_pGraphics);
+    std::swap(m_pRowOffset, other.m_pRowOffset);
+    std::swap(m_iPixelCount, other.m_iPixelCount);
+    std::swap(m_iByteSize, other.m_iByteSize);
+    std::swap(m_iWidth, other.m_iWidth);
+    std::swap(m_iHeight, other.m_iHeight);
+    InitializeGraphics();
+    other.InitializeGraphics();
+}
+
 /// Draws a picture of the image's size pixel on pixel: the forms of DrawImage that take a point would scale it by its
 /// resolution.
 void CVQDIB::DrawWhole(Gdiplus::Bitmap& picture)

@@ -29,14 +29,14 @@ bool CVQDIB::ReadFile(CVQArchive* archive)
     if (!ReadFileToBitmap(archive, read))
         return false;
     const vq::BitmapOwner bitmap(read);
-    CVQDIB fresh(1, 1);
-    if (!fresh.Create(static_cast<INT>(bitmap->GetWidth()), static_cast<INT>(bitmap->GetHeight())))
+    CVQDIB fresh(static_cast<CVQDIB*>(nullptr));
+    if (!fresh.Take(*bitmap) &&
+        fresh.Create(static_cast<INT>(bitmap->GetWidth()), static_cast<INT>(bitmap->GetHeight())))
+        fresh.DrawWhole(*bitmap);
+    if (!fresh.m_pGraphics)
         return false;
-    fresh.DrawWhole(*bitmap);
-    const LONG width = fresh.m_iWidth;
-    const LONG height = fresh.m_iHeight;
-    Destroy();
-    return Adopt(fresh.Detach(), width, height);
+    ExchangePicture(fresh);
+    return true;
 }
 
 bool CVQDIB::WriteFile(CVQArchive* archive)

@@ -4,8 +4,11 @@
 
 #include "VQDraw/image/GraphicsSettings.h"
 #include "VQDraw/image/ImageEncoders.h"
+#include "VQDraw/image/ImageSize.h"
+#include "VQDraw/image/PixelFormulas.h"
 #include "vqCommonBase/VQShellAPI.h"
 
+#include <algorithm>
 #include <string_view>
 #include <vector>
 
@@ -75,6 +78,23 @@ CVQDIB::CVQDIB(CString file, COLORREF colour, LONG alpha)
     Load(file, colour, alpha);
 }
 
+/// Becomes the picture without copying it, or empty when memory runs out. False, and nothing has changed, where the
+/// system does not hand the pixels over. What is left is what drawing would leave: nothing of a transparent pixel.
+bool CVQDIB::Take(Gdiplus::Bitmap& picture)
+{
+    const auto width = static_cast<LONG>(picture.GetWidth());
+    const auto height = static_cast<LONG>(picture.GetHeight());
+    if (!vq::isRepresentable(width, height))
+        return false;
+    vq::platform::DecodedPixels decoded = vq::platform::takePixels(picture);
+    if (!decoded.words)
+        return false;
+    Destroy();
+    if (Adopt(decoded.words.release(), width, height) && decoded.mayBeTransparent)
+        std::ranges::transform(Pixels(), m_pImageBuffer, vq::zeroIfTransparent);
+    return true;
+}
+
 /// A cleared image of the picture's size, or of 1 x 1 where there is no picture, or one too large.
 void CVQDIB::CreateOrBlank(Gdiplus::Bitmap& picture)
 {
@@ -89,7 +109,9 @@ bool CVQDIB::Load(CString path)
     const CSingleLock lock(&_critSect, TRUE);
     useBackslashes(path);
     Gdiplus::Bitmap picture(path);
-    CreateOrBlank(picture);
+    if (Take(picture) && m_pGraphics)
+        return true;
+    CreateOrBlank(picture); // what was taken is gone: 1 x 1
     if (!m_pGraphics)
         return true;
     const vq::SourceCopy mode(*m_pGraphics);

@@ -97,8 +97,11 @@ bool CVQDIB::LoadBMP(CString path)
     auto picture = readPicture(path);
     if (!picture)
         return false;
-    Destroy();
-    return Adopt(picture->pixels.release(), picture->width, picture->height);
+    CVQDIB fresh(static_cast<CVQDIB*>(nullptr));
+    if (!fresh.Adopt(picture->pixels.release(), picture->width, picture->height))
+        return false;
+    ExchangePicture(fresh);
+    return true;
 }
 
 bool CVQDIB::LoadMaskBMP(CString path)

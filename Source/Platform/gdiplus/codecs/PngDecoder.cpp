@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/gdiplus/codecs/Png.h"
+#include "Platform/gdiplus/codecs/PngChunks.h"
 #include "Platform/gdiplus/codecs/PngMemory.h"
+#include "Platform/gdiplus/codecs/PngRows.h"
 #include "Platform/gdiplus/codecs/Resolution.h"
 
 #include <cstring>
@@ -36,7 +38,7 @@ void refuseDamagedPixels(png_structp png, png_const_charp warning)
 class Reader
 {
 public:
-    explicit Reader(Bytes file) : m_rest(file), m_fileBytes(static_cast<std::int64_t>(file.size())) {}
+    explicit Reader(Bytes file) : m_file(file), m_rest(file), m_fileBytes(static_cast<std::int64_t>(file.size())) {}
     ~Reader() { png_destroy_read_struct(&m_png, &m_info, nullptr); }
     Reader(const Reader&) = delete;
     Reader& operator=(const Reader&) = delete;
@@ -52,11 +54,13 @@ public:
 private:
     bool create();
     void limit();
+    bool readQuickly(PixelView target) const;
     void convertToBgra();
 
     Escape m_escape;
     png_structp m_png = nullptr;
     png_infop m_info = nullptr;
+    Bytes m_file;
     Bytes m_rest;
     std::int64_t m_fileBytes;
 };
@@ -151,8 +155,24 @@ void Reader::convertToBgra()
     png_set_add_alpha(m_png, 0xFF, PNG_FILLER_AFTER);
 }
 
+/// Nearly every file is of this kind. Whatever is unusual in one is left to libpng, which has the last word.
+bool Reader::readQuickly(PixelView target) const
+{
+    const int type = png_get_color_type(m_png, m_info);
+    const bool isColour = type == PNG_COLOR_TYPE_RGB || type == PNG_COLOR_TYPE_RGB_ALPHA;
+    if (!isColour || png_get_bit_depth(m_png, m_info) != 8 || png_get_valid(m_png, m_info, PNG_INFO_tRNS) ||
+        png_get_interlace_type(m_png, m_info) != PNG_INTERLACE_NONE)
+        return false;
+    // The header has been read up to the content of the first chunk of pixels.
+    const std::size_t begin = m_file.size() - m_rest.size() - std::tuple_size_v<png::ChunkStart>;
+    const auto samples = type == PNG_COLOR_TYPE_RGB ? png::Samples::Rgb : png::Samples::Rgba;
+    return png::readPlainPixels(m_file.subspan(begin), samples, target);
+}
+
 bool Reader::readPixels(PixelView target)
 {
+    if (readQuickly(target))
+        return true;
     return attempt(m_escape, [this, &target] {
         convertToBgra();
         const int passes = png_set_interlace_handling(m_png);

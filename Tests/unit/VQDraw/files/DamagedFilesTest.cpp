@@ -33,6 +33,8 @@ class DamagedFile : public testing::TestWithParam<Kind>
 protected:
     void SetUp() override
     {
+        if (differsHere("damaged pictures"))
+            return; // and there are no bytes to be damaged
         CVQDIB picture(9, 6);
         fillRandom(picture, 5);
         picture.Clear(CRect(0, 0, 4, 4), RGB(255, 0, 0), 255);
@@ -41,8 +43,6 @@ protected:
         picture.Save(saved.path());
         whole = textOf(saved.read());
     }
-
-    bool isEmptyHere() const { return whole.empty(); } // what Wine writes as GIF
 
     /// Loads the bytes as a file and as a block of an archive.
     void load(const std::string& bytes)
@@ -99,7 +99,7 @@ TEST_P(DamagedFile, WithAnyByteChangedLeavesAnImage)
 
 TEST_P(DamagedFile, ChangedAtRandomLeavesAnImage)
 {
-    if (isEmptyHere())
+    if (whole.empty())
         return;
     std::mt19937 random(20);
     const auto below = [&random](std::size_t end) { return static_cast<std::size_t>(random() % end); };

@@ -52,8 +52,8 @@ TEST_F(WrittenFile, PngOfAnArchiveIsTheSame)
 
 TEST_F(WrittenFile, PngOfManySizesIsSound)
 {
-    for (const int width : {1, 2, 3, 7, 64, 300})
-        for (const int height : {1, 2, 5}) {
+    for (const int width : {1, 7, 300})
+        for (const int height : {1, 5}) {
             image.Resize(width, height);
             fillRandom(image, 4);
             const std::string file = saved("size.png");

@@ -27,6 +27,8 @@ struct PngContent
     std::optional<png_color_16> transparentColour{}; ///< for grey and RGB
     double gamma = 0;                                ///< 0: no such chunk
     int textBytes = 0;                               ///< 0: no such chunk
+    int filters = 0;                                 ///< those that the library may choose from; 0: as it likes
+    std::size_t chunkBytes = 0;                      ///< the most that a chunk of pixels holds; 0: as it likes
     bool hasResolution = false;
     std::uint32_t resolutionX = 0;
     std::uint32_t resolutionY = 0;
@@ -48,6 +50,10 @@ inline Bytes pngFile(const PngContent& content)
     png_set_IHDR(png, info, static_cast<png_uint_32>(content.width), static_cast<png_uint_32>(content.height),
                  content.depth, content.colourType, content.interlaced ? PNG_INTERLACE_ADAM7 : PNG_INTERLACE_NONE,
                  PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
+    if (content.filters != 0)
+        png_set_filter(png, PNG_FILTER_TYPE_BASE, content.filters);
+    if (content.chunkBytes != 0)
+        png_set_compression_buffer_size(png, content.chunkBytes);
     if (!content.palette.empty())
         png_set_PLTE(png, info, content.palette.data(), static_cast<int>(content.palette.size()));
     if (!content.paletteAlpha.empty())

@@ -72,6 +72,23 @@ TEST(PngEncode, ReadsRowsThatRunUpwards)
     EXPECT_EQ(pixelsOf(*picture), (Pixels{0xFF000003, 0xFF000004, 0xFF000001, 0xFF000002}));
 }
 
+/// libpng refuses a chunk whose checksum is wrong here, but not the last one.
+TEST(PngEncode, GivesEveryChunkItsChecksum)
+{
+    const Pixels pixels = randomPixels(61 * 47, 1);
+    const auto file = encodePng(viewOf(pixels, 61));
+    ASSERT_TRUE(file);
+    png_image image{};
+    image.version = PNG_IMAGE_VERSION;
+    ASSERT_TRUE(png_image_begin_read_from_memory(&image, file->data(), file->size())) << image.message;
+    image.format = PNG_FORMAT_BGRA;
+    Pixels decoded(pixels.size());
+    EXPECT_TRUE(png_image_finish_read(&image, nullptr, decoded.data(), 0, nullptr)) << image.message;
+    EXPECT_EQ(decoded, pixels);
+    const Bytes end(file->bytes().end() - 12, file->bytes().end());
+    EXPECT_EQ(end, (Bytes{0, 0, 0, 0, 'I', 'E', 'N', 'D', 0xAE, 0x42, 0x60, 0x82}));
+}
+
 TEST(PngEncode, RefusesAPictureWithoutPixels)
 {
     const Pixels pixels{1, 2, 3, 4};
