@@ -54,10 +54,19 @@ bool addDeviceContext(Gallery& gallery, CVQDIB& image, const std::string& captio
     return gallery.add(grabbed, "5-context", caption);
 }
 
+/// The picture as a file of another format keeps it.
+bool addJpeg(Gallery& gallery, CVQDIB& image, const std::filesystem::path& folder, const std::string& caption)
+{
+    const std::filesystem::path file = folder / "photograph.jpg";
+    image.Save(file.wstring().c_str());
+    CVQDIB loaded{CString(file.wstring().c_str())};
+    return gallery.add(loaded, "8-jpeg", caption);
+}
+
 bool addSteps(Gallery& gallery, CVQDIB& original)
 {
     CVQDIB image(original);
-    bool written = gallery.add(original, "0-original", "Loaded through GDI+ into the image");
+    bool written = gallery.add(original, "0-original", "<code>Load</code>");
     const auto step = [&](const std::string& name, const std::string& caption, auto change) {
         image = original;
         change(image);
@@ -102,7 +111,9 @@ int main(int argc, char** argv)
         return fail("not a picture that can be shown", argv[1]);
 
     Gallery gallery(argv[2], "photograph", "A photograph in the image class");
-    if (!addSteps(gallery, *original) || !gallery.finish())
+    if (!addSteps(gallery, *original) ||
+        !addJpeg(gallery, *original, argv[2], "<code>Save</code> as JPEG and <code>Load</code> of that file") ||
+        !gallery.finish())
         return fail("cannot write to", argv[2]);
     return 0;
 }

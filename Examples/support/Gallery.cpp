@@ -7,7 +7,6 @@
 
 namespace {
 
-constexpr CLSID kPngEncoder = {0x557CF406, 0x1A04, 0x11D3, {0x9A, 0x73, 0x00, 0x00, 0xF8, 0x1E, 0xF3, 0x2E}};
 constexpr std::string_view kSectionEnding = ".section.html";
 
 constexpr std::string_view kPageBegin = R"(<!DOCTYPE html>
@@ -47,8 +46,7 @@ bool Gallery::add(CVQDIB& picture, const std::string& name, const std::string& c
 {
     const std::string file = m_section + "-" + name + ".png";
     m_entries.push_back({file, caption});
-    return picture.GetBitmap() &&
-           picture.GetBitmap()->Save((m_folder / file).wstring().c_str(), &kPngEncoder, nullptr) == Gdiplus::Ok;
+    return picture.Save((m_folder / file).wstring().c_str()) && std::filesystem::exists(m_folder / file);
 }
 
 bool Gallery::finish() const

@@ -2,13 +2,23 @@
 #include "support/Photograph.h"
 
 #include <algorithm>
+#include <utility>
+
+namespace {
+
+/// What loading a file leaves that is no picture.
+bool isBlank(CVQDIB& image)
+{
+    return image.GetSize() == 1 && image[0] == 0;
+}
+
+} // namespace
 
 std::unique_ptr<CVQDIB> loadPhotograph(const std::filesystem::path& file, LONG longestSide)
 {
-    Gdiplus::Bitmap bitmap(file.wstring().c_str());
-    if (bitmap.GetLastStatus() != Gdiplus::Ok)
+    auto image = std::make_unique<CVQDIB>(CString(file.wstring().c_str()));
+    if (!image->GetBitmap() || isBlank(*image))
         return nullptr;
-    auto image = std::make_unique<CVQDIB>(&bitmap);
     const LONG longest = std::max(image->GetWidth(), image->GetHeight());
     if (longest > longestSide)
         image->Resize(std::max<LONG>(image->GetWidth() * longestSide / longest, 1),
