@@ -339,7 +339,8 @@ public:
     /// From edge to edge of the image.
     void LineHStipple(LONG y, COLORREF colour, LONG alpha);
     void LineVStipple(LONG x, COLORREF colour, LONG alpha);
-    /// One pixel on, one off.
+    /// One pixel on, one off. While antialiasing is on, dashes end in the middle of pixels, so that upright and level
+    /// lines of these dots are even lines of half the alpha.
     void LineStipple(LONG x1, LONG y1, LONG x2, LONG y2, COLORREF colour, LONG alpha);
     void LineStipple(LONG x1, LONG y1, LONG x2, LONG y2, LONG r, LONG g, LONG b, LONG a);
     /// Round dots a pixel wide, a pixel apart.

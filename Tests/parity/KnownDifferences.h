@@ -40,6 +40,7 @@ inline constexpr std::array kKnownDifferences{
     KnownDifference{"going on with a closed figure", "a path added to it stays apart", "is connected", "Wine looks at the first point only"},
     KnownDifference{"anchors of thin pens", "drawn for a width of 2", "not drawn", "Wine draws lines of width 1 without their caps"},
     KnownDifference{"thin dashes of a second figure", "start anew", "go on from the first", "Wine draws a thin path in one go"},
+    KnownDifference{"outlines under SourceCopy", "replace what the pen covers", "clear what they enclose as well", "Wine copies a line's whole box"},
     KnownDifference{"lines from afar", "are cut to the picture first", "take a second for 100 million pixels", "Wine goes along them pixel by pixel"},
     KnownDifference{"offset of dashes", "how far into the pattern they begin", "ignored", "not implemented in Wine"},
     KnownDifference{"round joins", "drawn", "bevels", "not implemented in Wine"},

