@@ -7,8 +7,9 @@
 
 namespace {
 
-constexpr bool (*kSheets[])(Gallery&) = {addLines,       addDashes, addShapes,  addHatches, addGradients,
-                                         addCompositing, addTexts,  addLayouts, addScripts, addLabels};
+constexpr bool (*kSheets[])(Gallery&) = {addLines,       addDashes,     addShapes,  addHatches, addGradients,
+                                         addCompositing, addTexts,      addLayouts, addScripts, addImageLines,
+                                         addImageShapes, addSelections, addLabels};
 
 int fail(const char* reason, const char* what)
 {

@@ -99,3 +99,25 @@ bool addSheetOfBoth(Gallery& gallery, const SheetLook& look, const Samples& samp
     }
     return gallery.add(sheet.picture(), look.name, look.caption);
 }
+
+/// What members of an image draw, on an image of its own that fills the cell.
+struct ImageSample
+{
+    std::wstring name;
+    void (*draw)(CVQDIB& image);
+};
+
+/// A sheet with a cell for each sample, opaque where it was not cleared.
+template <typename Samples>
+bool addImageSheet(Gallery& gallery, const SheetLook& look, const Samples& samples)
+{
+    Sheet sheet(look, static_cast<int>(std::size(samples)));
+    for (const ImageSample& sample : samples) {
+        const Cell cell = sheet.next(sample.name);
+        CVQDIB image(cell.width, cell.height);
+        image.Clear(RGB(255, 255, 255));
+        sample.draw(image);
+        sheet.picture().Copy(image, cell.left, cell.top);
+    }
+    return gallery.add(sheet.picture(), look.name, look.caption);
+}

@@ -14,3 +14,6 @@ bool addTexts(Gallery& gallery);
 bool addLayouts(Gallery& gallery);
 bool addScripts(Gallery& gallery);
 bool addLabels(Gallery& gallery);
+bool addImageLines(Gallery& gallery);
+bool addImageShapes(Gallery& gallery);
+bool addSelections(Gallery& gallery);
