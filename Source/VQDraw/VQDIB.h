@@ -720,13 +720,13 @@ private:
     void AddRoundRect(Gdiplus::GraphicsPath& path, CRect rect, int corner) const;
     void DrawSizeLabels(const CRect& selection);
     void DrawCornerTicks(const CRect& selection);
-    const Gdiplus::Font& TextFont() const;
+    const Gdiplus::Font* TextFont() const;
     COLORREF ShadowColour() const;
     void FillLine(const CRect& line, COLORREF colour);
     Gdiplus::SolidBrush* TextBrush();
-    void DrawString(const Gdiplus::Font& font, const Gdiplus::RectF& layout, const Gdiplus::StringFormat* format,
+    void DrawString(const Gdiplus::Font* font, const Gdiplus::RectF& layout, const Gdiplus::StringFormat* format,
                     const wchar_t* text);
-    void DropShadow(const Gdiplus::Font& font, const Gdiplus::RectF& layout, const Gdiplus::StringFormat* format,
+    void DropShadow(const Gdiplus::Font* font, const Gdiplus::RectF& layout, const Gdiplus::StringFormat* format,
                     const wchar_t* text);
     /// Lets go of what is kept for measuring, before GDI+ ends.
     static void ReleaseMeasuring();

@@ -35,18 +35,18 @@ void CVQDIB::TextOutW(LONG x, LONG y, const wchar_t* text)
 }
 
 /// The shadow if there is to be one, the text with the text brush, and smoothed text once more.
-void CVQDIB::DrawString(const Gdiplus::Font& font, const Gdiplus::RectF& layout, const Gdiplus::StringFormat* format,
+void CVQDIB::DrawString(const Gdiplus::Font* font, const Gdiplus::RectF& layout, const Gdiplus::StringFormat* format,
                         const wchar_t* text)
 {
     const Gdiplus::SolidBrush* const brush = TextBrush();
     m_pGraphics->SetTextRenderingHint(m_RenderingHint);
     if (m_uiFlags & vq::kTextShadow)
         DropShadow(font, layout, format, text);
-    m_pGraphics->DrawString(text, -1, &font, layout, format, brush);
+    m_pGraphics->DrawString(text, -1, font, layout, format, brush);
     if (m_RenderingHint != Gdiplus::TextRenderingHintAntiAlias)
         return;
     const Gdiplus::SolidBrush second(vq::colourOf(GetTextColor(), kSecondTextAlpha));
-    m_pGraphics->DrawString(text, -1, &font, layout, format, &second);
+    m_pGraphics->DrawString(text, -1, font, layout, format, &second);
 }
 
 COLORREF CVQDIB::ShadowColour() const
@@ -61,7 +61,7 @@ COLORREF CVQDIB::ShadowColour() const
     return luminance < kLight ? RGB(255, 255, 255) : RGB(0, 0, 0);
 }
 
-void CVQDIB::DropShadow(const Gdiplus::Font& font, const Gdiplus::RectF& layout, const Gdiplus::StringFormat* format,
+void CVQDIB::DropShadow(const Gdiplus::Font* font, const Gdiplus::RectF& layout, const Gdiplus::StringFormat* format,
                         const wchar_t* text)
 {
     if (!m_pGraphics || vq::isEmptyText(text))
@@ -71,17 +71,17 @@ void CVQDIB::DropShadow(const Gdiplus::Font& font, const Gdiplus::RectF& layout,
     const Gdiplus::REAL y = layout.Y + static_cast<Gdiplus::REAL>(m_iShadowY);
     for (const Offset& offset : kShadowOffsets) {
         const Gdiplus::RectF moved(x + offset.x, y + offset.y, layout.Width, layout.Height);
-        m_pGraphics->DrawString(text, -1, &font, moved, format, &brush);
+        m_pGraphics->DrawString(text, -1, font, moved, format, &brush);
     }
 }
 
 void CVQDIB::DropTextShadow(const Gdiplus::Font& font, Gdiplus::PointF origin, const wchar_t* text)
 {
-    DropShadow(font, Gdiplus::RectF(origin, Gdiplus::SizeF()), nullptr, text);
+    DropShadow(&font, Gdiplus::RectF(origin, Gdiplus::SizeF()), nullptr, text);
 }
 
 void CVQDIB::DropTextShadow(const Gdiplus::Font& font, Gdiplus::RectF layout, const Gdiplus::StringFormat& format,
                             const wchar_t* text)
 {
-    DropShadow(font, layout, &format, text);
+    DropShadow(&font, layout, &format, text);
 }

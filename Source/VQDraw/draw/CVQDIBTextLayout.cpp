@@ -60,7 +60,7 @@ void CVQDIB::DrawTextW(const CString& text, RECT* rect, UINT format)
 {
     if (!m_pGraphics || !rect || vq::isEmptyText(text))
         return;
-    const Gdiplus::Font& font = TextFont();
+    const Gdiplus::Font* const font = TextFont();
     Gdiplus::RectF layout = layoutOf(*rect);
     Gdiplus::StringFormat stringFormat(format & kUnbroken ? Gdiplus::StringFormatFlagsNoWrap : 0);
     stringFormat.SetAlignment(alignmentOf(format & kCentred, format & kRight));

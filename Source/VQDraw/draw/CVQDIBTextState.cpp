@@ -107,7 +107,8 @@ Gdiplus::SolidBrush* CVQDIB::TextBrush()
     return m_pTextBrush;
 }
 
-const Gdiplus::Font& CVQDIB::TextFont() const
+/// Null when GDI+ refuses the font, and then the text.
+const Gdiplus::Font* CVQDIB::TextFont() const
 {
     if (!m_pKeptFont)
         m_pKeptFont = new vq::KeptFont;

@@ -20,16 +20,16 @@ LONG roundedDown(Gdiplus::REAL length)
 
 MeasuringSurface::MeasuringSurface() : m_graphics(m_context.m_hDC) {}
 
-Gdiplus::RectF MeasuringSurface::measure(const wchar_t* text, const Gdiplus::Font& font, const Gdiplus::RectF& layout,
+Gdiplus::RectF MeasuringSurface::measure(const wchar_t* text, const Gdiplus::Font* font, const Gdiplus::RectF& layout,
                                          const Gdiplus::StringFormat* format, Gdiplus::TextRenderingHint hint)
 {
     Gdiplus::RectF bounds;
     m_graphics.SetTextRenderingHint(hint);
-    m_graphics.MeasureString(text, -1, &font, layout, format, &bounds);
+    m_graphics.MeasureString(text, -1, font, layout, format, &bounds);
     return bounds;
 }
 
-CSize MeasuringSurface::size(const wchar_t* text, const Gdiplus::Font& font, Gdiplus::TextRenderingHint hint)
+CSize MeasuringSurface::size(const wchar_t* text, const Gdiplus::Font* font, Gdiplus::TextRenderingHint hint)
 {
     const Gdiplus::RectF bounds = measure(text, font, Gdiplus::RectF(), nullptr, hint);
     return CSize(roundedDown(bounds.Width), roundedDown(bounds.Height));
@@ -39,7 +39,7 @@ CSize MeasuringSurface::size(const wchar_t* text, HFONT font, Gdiplus::TextRende
 {
     const HGDIOBJ former = m_context.SelectObject(static_cast<HGDIOBJ>(font));
     const Gdiplus::Font selected(m_context.m_hDC);
-    const CSize result = size(text, selected, hint);
+    const CSize result = size(text, KeptFont::usable(selected), hint);
     if (former)
         m_context.SelectObject(former);
     return result;

@@ -14,14 +14,14 @@ class MeasuringSurface
 public:
     MeasuringSurface();
 
-    /// The font of a record, until the next call.
-    const Gdiplus::Font& font(const LOGFONTW& record) { return m_font.of(record, m_context.m_hDC); }
+    /// The font of a record, until the next call; null when GDI+ refuses it.
+    const Gdiplus::Font* font(const LOGFONTW& record) { return m_font.of(record, m_context.m_hDC); }
 
-    /// What a text takes up in a layout rectangle; empty when GDI+ refuses.
-    Gdiplus::RectF measure(const wchar_t* text, const Gdiplus::Font& font, const Gdiplus::RectF& layout,
+    /// What a text takes up in a layout rectangle; empty when GDI+ refuses, as it does a null font.
+    Gdiplus::RectF measure(const wchar_t* text, const Gdiplus::Font* font, const Gdiplus::RectF& layout,
                            const Gdiplus::StringFormat* format, Gdiplus::TextRenderingHint hint);
     /// The size of a text in a font, rounded down.
-    CSize size(const wchar_t* text, const Gdiplus::Font& font, Gdiplus::TextRenderingHint hint);
+    CSize size(const wchar_t* text, const Gdiplus::Font* font, Gdiplus::TextRenderingHint hint);
     /// In the font of an object, which is selected for the time.
     CSize size(const wchar_t* text, HFONT font, Gdiplus::TextRenderingHint hint);
 

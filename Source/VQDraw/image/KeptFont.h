@@ -13,20 +13,26 @@ namespace vq {
 class KeptFont
 {
 public:
-    /// Valid until the next call; broken, as its status says, when GDI+ refuses the record. Without a device context
-    /// one of memory is made for a new font.
-    const Gdiplus::Font& of(const LOGFONTW& record, HDC context = nullptr)
+    /// Valid until the next call; null when GDI+ refuses the record. Without a device context one of memory is made for
+    /// a new font.
+    const Gdiplus::Font* of(const LOGFONTW& record, HDC context = nullptr)
     {
         if (!isOf(record))
             make(record, context);
-        return *m_font;
+        return usable(*m_font);
+    }
+
+    /// A font that could not be made is not handed to GDI+: Wine leaves a stale handle in it.
+    static const Gdiplus::Font* usable(const Gdiplus::Font& font)
+    {
+        return font.GetLastStatus() == Gdiplus::Ok ? &font : nullptr;
     }
 
 private:
     /// A broken font is made anew: memory may have been short.
     bool isOf(const LOGFONTW& record) const
     {
-        return m_font && std::memcmp(&record, &m_record, sizeof record) == 0 && m_font->GetLastStatus() == Gdiplus::Ok;
+        return m_font && usable(*m_font) && std::memcmp(&record, &m_record, sizeof record) == 0;
     }
 
     void make(const LOGFONTW& record, HDC context)

@@ -75,7 +75,8 @@ TEST_F(CVQDIBTextShadow, IsTheTextNineTimesAroundTheOffset)
 TEST_F(CVQDIBTextShadow, OfAFullBlockIsNineLayersDeep)
 {
     drop(L"\u2588", {20, 10});
-    EXPECT_NEAR(m_image(20 + kEm / 6 + kEm / 3 + 1, 10 + kEm / 2) >> 24, alphaOfLayers(9), 1);
+    const int tolerance = differsHere("source-over rounding") ? 9 : 0; // 1 a layer
+    EXPECT_NEAR(m_image(20 + kEm / 6 + kEm / 3 + 1, 10 + kEm / 2) >> 24, alphaOfLayers(9), tolerance);
 }
 
 /// Grey g has the luminance (480 g + 255) / 510: 60 for 64, 61 for 65.

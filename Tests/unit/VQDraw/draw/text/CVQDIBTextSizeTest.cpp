@@ -58,7 +58,9 @@ TEST(CVQDIBTextSize, IsTheSameByEveryWay)
 TEST(CVQDIBTextSize, IsThatOfTheAdvancesAndTheRoomAroundRoundedDown)
 {
     const CSize size = CVQDIB::GetTextSize(sans(), kNumber);
-    EXPECT_EQ(size.cx, 107);
+    if (!differsHere("width of measured text")) {
+        EXPECT_EQ(size.cx, 107);
+    }
     if (!differsHere("height of measured text")) {
         EXPECT_EQ(size.cy, 30);
     }
@@ -87,7 +89,10 @@ TEST(CVQDIBTextSize, FollowsTheImagesFont)
     const CSize small = image.GetTextSize(L"MM");
     image.SetFontSize(-20);
     const CSize large = image.GetTextSize(L"MM");
-    EXPECT_NEAR(large.cx, 2 * small.cx, 2);
+    if (!differsHere("width of measured text")) {
+        EXPECT_NEAR(large.cx, 2 * small.cx, 1);
+    }
+    EXPECT_GT(large.cx, small.cx);
     image.SetBoldFont(true);
     EXPECT_GT(image.GetTextSize(L"MM").cx, large.cx);
     image.SetBoldFont(false);

@@ -199,10 +199,12 @@ TEST_F(CVQDIBTextState, SharesOneRenderingHintThatTellsTheFormerOne)
 
 TEST_F(CVQDIBTextState, TakesTheRenderingHintWithTheNextText)
 {
+    CVQDIB image(40, 40);
     const ScopedHint scoped(Gdiplus::TextRenderingHintAntiAliasGridFit);
-    EXPECT_EQ(m_image.GetGraphics()->GetTextRenderingHint(), Gdiplus::TextRenderingHintSingleBitPerPixelGridFit);
-    m_image.TextOutW(0, 0, L"x");
-    EXPECT_EQ(m_image.GetGraphics()->GetTextRenderingHint(), Gdiplus::TextRenderingHintAntiAliasGridFit);
+    EXPECT_EQ(image.GetGraphics()->GetTextRenderingHint(), Gdiplus::TextRenderingHintSingleBitPerPixelGridFit);
+    setSans(image, -11);
+    image.TextOutW(0, 0, L"x");
+    EXPECT_EQ(image.GetGraphics()->GetTextRenderingHint(), Gdiplus::TextRenderingHintAntiAliasGridFit);
 }
 
 void changeEverything(CVQDIB& image)
