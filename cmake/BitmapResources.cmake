@@ -1,6 +1,9 @@
 # SPDX-License-Identifier: MIT
 # vq_bitmap_resources(target NUMBER=FILE.bmp ...): bitmaps that a program or library carries with it, for LoadBitmapW.
 # On Windows they are its resources; elsewhere it puts them into the table of the process when it is loaded.
+if(WIN32)
+    enable_language(RC)
+endif()
 function(vq_bitmap_resources target)
     set(files)
     set(script "")
@@ -19,7 +22,6 @@ function(vq_bitmap_resources target)
     endforeach()
     set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${files})
     if(WIN32)
-        enable_language(RC)
         set(source ${CMAKE_CURRENT_BINARY_DIR}/${target}-bitmaps.rc)
         file(CONFIGURE OUTPUT ${source} CONTENT "${script}" @ONLY)
         set_source_files_properties(${source} PROPERTIES OBJECT_DEPENDS "${files}")

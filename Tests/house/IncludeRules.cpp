@@ -141,8 +141,8 @@ bool mayCallTheSystem(const SourceFile& file)
 
 bool isCodecLibrary(std::string_view header)
 {
-    constexpr std::array<std::string_view, 6> kHeaders{"png.h",    "zlib.h",    "jpeglib.h",
-                                                       "jerror.h", "gif_lib.h", "tiffio.h"};
+    constexpr std::array<std::string_view, 6> kHeaders{"png.h",    "libdeflate.h", "jpeglib.h",
+                                                       "jerror.h", "gif_lib.h",    "tiffio.h"};
     return std::ranges::find(kHeaders, header) != kHeaders.end();
 }
 

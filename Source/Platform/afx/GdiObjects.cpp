@@ -43,6 +43,8 @@ BOOL CGdiObject::CreateStockObject(int index)
     return Attach(::GetStockObject(index));
 }
 
+CFont::~CFont() = default;
+
 BOOL CFont::CreateFontIndirect(const LOGFONTW* font)
 {
     return !m_hObject && font && Attach(::CreateFontIndirectW(font));
@@ -52,6 +54,8 @@ int CFont::GetLogFont(LOGFONTW* font) const
 {
     return GetObject(sizeof(LOGFONTW), font);
 }
+
+CBitmap::~CBitmap() = default;
 
 BOOL CBitmap::CreateBitmap(int width, int height, UINT planes, UINT bitsPerPixel, const void* bits)
 {

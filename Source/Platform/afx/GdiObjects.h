@@ -33,6 +33,9 @@ public:
 class VQPLATFORM_API CFont : public CGdiObject
 {
 public:
+    CFont() noexcept = default;
+    ~CFont() override; // keeps the class in this library
+
     operator HFONT() const { return static_cast<HFONT>(m_hObject); }
 
     BOOL CreateFontIndirect(const LOGFONTW* font);
@@ -43,6 +46,9 @@ public:
 class VQPLATFORM_API CBitmap : public CGdiObject
 {
 public:
+    CBitmap() noexcept = default;
+    ~CBitmap() override; // keeps the class in this library
+
     operator HBITMAP() const { return static_cast<HBITMAP>(m_hObject); }
 
     BOOL CreateBitmap(int width, int height, UINT planes, UINT bitsPerPixel, const void* bits);
