@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "FileSupport.h"
 #include "support/ImageAccess.h"
+#include "support/Locks.h"
 
 namespace vq::test {
 namespace {
@@ -172,6 +173,17 @@ TEST(LoadOverBackground, OfAFileThatIsNoPictureIsOnePixelOfBackground)
     CVQDIB image(3, 3);
     EXPECT_EQ(image.Load(text.path(), RGB(1, 2, 3), 255), 1);
     EXPECT_TRUE(shows(image, {0xFF010203}));
+}
+
+TEST(Load, WaitsForTheImagesLockAndSavingDoesNot)
+{
+    const PngFile file(2, Pixels(6, 0xFF102030));
+    CVQDIB image(1, 1);
+    const TemporaryFile base(L"locked");
+    const FileBeside saved(base, L".png");
+    EXPECT_TRUE(waitsForTheLock([&] { image.Load(file.path()); }));
+    EXPECT_TRUE(waitsForTheLock([&] { image.Load(file.path(), 0, 0); }));
+    EXPECT_TRUE(finishesWhileLocked(std::chrono::seconds(5), [&] { image.Save(saved.path()); }));
 }
 
 TEST(FileConstructors, LoadOrStayEmpty)
