@@ -123,6 +123,7 @@ ChannelRange blueRange(std::span<const Word> pixels)
         return {};
     ByteRanges ranges;
     const auto take = [&](std::size_t begin, auto count) {
+        fetchAhead(pixels.data() + begin);
         ranges.take(reinterpret_cast<const Channel*>(pixels.data() + begin), count);
     };
     for (; pixels.size() >= kFourPages; pixels = pixels.subspan(kFourPages)) {
