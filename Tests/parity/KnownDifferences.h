@@ -68,6 +68,7 @@ inline constexpr std::array kKnownDifferences{
     KnownDifference{"height of measured text", "the lines and an eighth of an em", "the lines", "Wine adds nothing"},
     KnownDifference{"spaces at the end of a line", "not measured", "measured", "Wine counts them among the text"},
     KnownDifference{"place of measured text", "moved by the alignment", "the layout's corner", "Wine measures the lines alone"},
+    KnownDifference{"text while a context is lent", "ObjectBusy", "is drawn", "Wine does not check"},
     KnownDifference{"text under SourceCopy", "InvalidParameter", "is drawn", "Wine does not check"},
     KnownDifference{"text hints", "two levels or grey, hinted or not", "always grey", "Wine draws bitmaps' text from outlines"},
     KnownDifference{"text and its rectangle", "clipped to it; whole without clipping and trimming", "not clipped on bitmaps; always trimmed", "Wine clips through GDI only"},

