@@ -100,7 +100,7 @@ INSTANTIATE_TEST_SUITE_P(
 /// One byte of the range in the first pixels, one in the last: everything is looked at.
 TEST(LargePictureEqualize, FindsTheDarkestAndTheBrightestPixelWhereverTheyAre)
 {
-    for (const std::int64_t place : {0, 31, 4096, 70'000, kWidth * kHeight - 1}) {
+    for (const LONG place : {LONG{0}, LONG{31}, LONG{4096}, LONG{70'000}, kWidth * kHeight - 1}) {
         CVQDIB image(kWidth, kHeight);
         image.Clear(RGB(1, 2, 100), BYTE{9});
         image[place] = 0x09020150;                        // blue 80
