@@ -68,8 +68,10 @@ function(vq_library_settings target)
     set_target_properties(${target} PROPERTIES
         VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR} INSTALL_RPATH "$ORIGIN")
     if(NOT WIN32)
+        # A library's calls of its own exported functions are its own: they are inlined, and go through no table.
+        target_compile_options(${target} PRIVATE -fno-semantic-interposition)
         set(map ${PROJECT_SOURCE_DIR}/cmake/hide-standard-library.map)
-        target_link_options(${target} PRIVATE LINKER:--version-script=${map} LINKER:-z,defs)
+        target_link_options(${target} PRIVATE LINKER:--version-script=${map} LINKER:-z,defs LINKER:-Bsymbolic-functions)
         set_target_properties(${target} PROPERTIES LINK_DEPENDS ${map})
         if(VQDRAW_SANITIZER)
             set_target_properties(${target} PROPERTIES LINK_OPTIONS "LINKER:--version-script=${map}")

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/gdiplus/FillRectangle.h"
 
+#include "Platform/gdiplus/brushes/Painter.h"
+#include "Platform/gdiplus/compositor/CompositingFormulas.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -30,7 +33,7 @@ int ceiledToInt(double value, int highest)
 }
 
 /// The pixels of 0 .. size - 1 whose centre lies in [low, high).
-Range centresInside(double low, double high, int size)
+[[gnu::always_inline]] inline Range centresInside(double low, double high, int size)
 {
     return {ceiledToInt(low, size), ceiledToInt(high, size)};
 }
@@ -52,35 +55,57 @@ Channel toChannel(double share)
     return static_cast<Channel>(std::lround(share * 255));
 }
 
-/// Boxes are narrow more often than not: `std::fill_n` makes ready for long runs first.
+/// Boxes are narrow more often than not: four pixels at a time, the last four from the end of the row.
 void fillRow(Pixel* pixels, int length, Pixel colour)
 {
     constexpr int kAtOnce = 4;
     const std::array<Pixel, kAtOnce> four{colour, colour, colour, colour};
-    for (; length >= kAtOnce; length -= kAtOnce, pixels += kAtOnce)
-        std::ranges::copy(four, pixels);
-    for (; length > 0; --length)
-        *pixels++ = colour;
-}
-
-void fillAliased(const Painter& painter, double left, double top, double right, double bottom)
-{
-    const PixelView& view = painter.canvas().view;
-    const Range columns = centresInside(left, right, view.width);
-    const Range rows = centresInside(top, bottom, view.height);
-    if (columns.length() == 0)
-        return;
-    if (const auto colour = painter.plainColour(); colour && alphaOf(*colour) == 255) {
-        for (int y = rows.first; y < rows.last; ++y)
-            fillRow(view.row(y) + columns.first, columns.length(), *colour);
+    if (length < kAtOnce) {
+        for (int x = 0; x < length; ++x)
+            pixels[x] = colour;
         return;
     }
+    for (int x = 0; x < length - kAtOnce; x += kAtOnce)
+        std::ranges::copy(four, pixels + x);
+    std::ranges::copy(four, pixels + length - kAtOnce);
+}
+
+/// The pixels whose centres lie in a box.
+struct Block
+{
+    Block(const PixelView& view, double left, double top, double right, double bottom)
+        : columns(centresInside(left, right, view.width)), rows(centresInside(top, bottom, view.height))
+    {
+    }
+
+    Range columns, rows;
+};
+
+void fillAliased(const Painter& painter, const Block& block)
+{
+    const auto& [columns, rows] = block;
+    if (columns.length() == 0)
+        return;
     constexpr int kRowsAhead = 4;
     for (int y = rows.first; y < rows.last; ++y) {
         if (y + kRowsAhead < rows.last)
             painter.expect(columns.first, y + kRowsAhead, columns.length());
         painter.run(columns.first, y, columns.length());
     }
+}
+
+void replace(const PixelView& view, const Block& block, Pixel colour)
+{
+    for (int y = block.rows.first; y < block.rows.last; ++y)
+        fillRow(view.row(y) + block.columns.first, block.columns.length(), colour);
+}
+
+/// The colour that takes the place of what it covers in full, if the brush is of one.
+std::optional<Pixel> replacingColour(const Canvas& canvas, const Shader& shader)
+{
+    const SolidShader* solid = shader.solid();
+    const bool replaces = solid && (canvas.blend == Blend::SourceCopy || alphaOf(solid->colour) == 255);
+    return replaces && canvas.alpha == SurfaceAlpha::Stored ? std::optional(sourceCopy(solid->colour)) : std::nullopt;
 }
 
 void fillSmooth(const Painter& painter, double left, double top, double right, double bottom)
@@ -108,9 +133,8 @@ void fillSmooth(const Painter& painter, double left, double top, double right, d
 
 } // namespace
 
-void fillRectangle(const Painter& painter, double left, double top, double right, double bottom)
+void fillRectangle(const Canvas& canvas, const Shader& shader, double left, double top, double right, double bottom)
 {
-    const Canvas& canvas = painter.canvas();
     left = canvas.toCentred(left);
     top = canvas.toCentred(top);
     right = canvas.toCentred(right);
@@ -118,9 +142,12 @@ void fillRectangle(const Painter& painter, double left, double top, double right
     if (!(left < right) || !(top < bottom))
         return;
     if (canvas.smooth)
-        fillSmooth(painter, left, top, right, bottom);
+        return fillSmooth(Painter(canvas, shader), left, top, right, bottom);
+    const Block block(canvas.view, left, top, right, bottom);
+    if (const auto colour = replacingColour(canvas, shader))
+        replace(canvas.view, block, *colour);
     else
-        fillAliased(painter, left, top, right, bottom);
+        fillAliased(Painter(canvas, shader), block);
 }
 
 } // namespace vq::gdiplus

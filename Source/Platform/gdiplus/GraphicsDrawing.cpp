@@ -84,7 +84,7 @@ Status Graphics::fill(const Brush* brush, double x, double y, double width, doub
             return InvalidParameter;
         const auto [across, down] = state.pageFactors();
         return state.draw([&](const Canvas& canvas) {
-            fillRectangle(Painter(canvas, *shader), x * across, y * down, (x + width) * across, (y + height) * down);
+            fillRectangle(canvas, *shader, x * across, y * down, (x + width) * across, (y + height) * down);
             return Ok;
         });
     });

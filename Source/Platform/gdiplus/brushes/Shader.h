@@ -37,6 +37,9 @@ public:
         return std::visit(std::forward<Work>(work), m_kind);
     }
 
+    /// Null unless the brush is of one colour.
+    const SolidShader* solid() const { return std::get_if<SolidShader>(&m_kind); }
+
 private:
     std::variant<SolidShader, HatchShader, GradientShader> m_kind;
 };
