@@ -580,8 +580,7 @@ public:
 
     /// Writes the format that the last four characters of the path say, in letters of either size: ".bmp" (32 bits),
     /// ".jpg" (quality 100, alpha dropped), ".gif", "tiff", ".png". To any other path ".png" is appended, also to one
-    /// in
-    /// ".tif", deliberately. @return false for an empty path only: whether a file could be written is not told. An
+    /// in ".tif", deliberately. @return false for an empty path only: whether a file could be written is not told. An
     /// empty image writes none.
     bool Save(CString path);
 
