@@ -28,12 +28,8 @@ public:
 
     void expect(const vq::gdiplus::PixelRect& rectangle) noexcept override
     {
-        constexpr int kStep = 64 / sizeof(vq::gdiplus::Pixel); // to the next cache line
-        const vq::gdiplus::PixelView& view = m_painter.canvas().view;
-        for (int y = rectangle.top; y < rectangle.bottom; ++y) {
-            for (int x = rectangle.left; x < rectangle.right; x += kStep)
-                __builtin_prefetch(view.row(y) + x, 1);
-        }
+        for (int y = rectangle.top; y < rectangle.bottom; ++y)
+            m_painter.expect(rectangle.left, y, rectangle.right - rectangle.left);
     }
 
     void glyph(const vq::gdiplus::GlyphCoverage& glyph) noexcept override
