@@ -4,6 +4,18 @@
 
 #include "VQDraw/image/GraphicsSettings.h"
 
+namespace {
+
+template <typename Rectangle>
+void drawWhole(CVQDIB* source, Gdiplus::Graphics& graphics, const Rectangle& place)
+{
+    const vq::HighQuality quality(graphics);
+    if (source && source->GetBitmap())
+        graphics.DrawImage(source->GetBitmap(), place);
+}
+
+} // namespace
+
 void CVQDIB::CopyWithScale(CVQDIB* source)
 {
     CopyWithScale(source, 0, 0, m_iWidth, m_iHeight);
@@ -15,9 +27,7 @@ void CVQDIB::CopyWithScale(CVQDIB* source, LONG x, LONG y, LONG w, LONG h)
     if (!m_pGraphics)
         return;
     const vq::SourceCopy mode(*m_pGraphics);
-    const vq::HighQuality quality(*m_pGraphics);
-    if (source && source->m_pBitmap)
-        m_pGraphics->DrawImage(source->m_pBitmap, Gdiplus::Rect(x, y, w, h));
+    drawWhole(source, *m_pGraphics, Gdiplus::Rect(x, y, w, h));
 }
 
 void CVQDIB::PasteWithScale(CVQDIB* source)
@@ -28,19 +38,13 @@ void CVQDIB::PasteWithScale(CVQDIB* source)
 void CVQDIB::PasteWithScale(CVQDIB* source, LONG x, LONG y, LONG w, LONG h)
 {
     const CSingleLock lock(&_critSect, TRUE);
-    if (!m_pGraphics)
-        return;
-    const vq::HighQuality quality(*m_pGraphics);
-    if (source && source->m_pBitmap)
-        m_pGraphics->DrawImage(source->m_pBitmap, Gdiplus::Rect(x, y, w, h));
+    if (m_pGraphics)
+        drawWhole(source, *m_pGraphics, Gdiplus::Rect(x, y, w, h));
 }
 
 void CVQDIB::PasteWithScaleFloat(CVQDIB* source, float x, float y, float w, float h)
 {
     const CSingleLock lock(&_critSect, TRUE);
-    if (!m_pGraphics)
-        return;
-    const vq::HighQuality quality(*m_pGraphics);
-    if (source && source->m_pBitmap)
-        m_pGraphics->DrawImage(source->m_pBitmap, Gdiplus::RectF(x, y, w, h));
+    if (m_pGraphics)
+        drawWhole(source, *m_pGraphics, Gdiplus::RectF(x, y, w, h));
 }
