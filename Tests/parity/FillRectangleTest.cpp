@@ -16,6 +16,20 @@ TEST(FillRectangle, IntegerRectangleLightsExactlyItsColumnsAndRows)
     EXPECT_EQ(picture.find(0).count, 144 - 20);
 }
 
+TEST(FillRectangle, EveryWidthIsFilledFromEdgeToEdgeAndNoFurther)
+{
+    constexpr int kSize = 48;
+    for (const std::uint32_t colour : {kRed, 0x80FF0000}) {
+        for (int width = 1; width <= 40; ++width) {
+            TestPicture picture(kSize, kSize);
+            const int x = width % 7;
+            picture.fill(colour, x, 3, width, 2);
+            EXPECT_EQ(picture.find(0).count, kSize * kSize - 2 * width) << width;
+            EXPECT_EQ(picture.find(picture.at(x, 3).value), (Found{x, 3, x + width - 1, 4, 2 * width})) << width;
+        }
+    }
+}
+
 TEST(FillRectangle, NegativeOrEmptySizesFillNothing)
 {
     TestPicture picture(12, 12);

@@ -55,19 +55,12 @@ Channel toChannel(double share)
     return static_cast<Channel>(std::lround(share * 255));
 }
 
-/// Boxes are narrow more often than not: four pixels at a time, the last four from the end of the row.
-void fillRow(Pixel* pixels, int length, Pixel colour)
+constexpr int kAtOnce = 8; ///< pixels that are stored together
+
+void store(Pixel* pixels, Pixel colour)
 {
-    constexpr int kAtOnce = 4;
-    const std::array<Pixel, kAtOnce> four{colour, colour, colour, colour};
-    if (length < kAtOnce) {
-        for (int x = 0; x < length; ++x)
-            pixels[x] = colour;
-        return;
-    }
-    for (int x = 0; x < length - kAtOnce; x += kAtOnce)
-        std::ranges::copy(four, pixels + x);
-    std::ranges::copy(four, pixels + length - kAtOnce);
+    using Together [[gnu::vector_size(kAtOnce * sizeof(Pixel)), gnu::aligned(sizeof(Pixel)), gnu::may_alias]] = Pixel;
+    *reinterpret_cast<Together*>(pixels) = Together{} + colour;
 }
 
 /// The pixels whose centres lie in a box.
@@ -94,10 +87,25 @@ void fillAliased(const Painter& painter, const Block& block)
     }
 }
 
+/// For blocks of kAtOnce .. 2 * kAtOnce columns: every row is two stores, which may overlap. Boxes are narrow more
+/// often than not. The view is a copy, which the stores cannot change.
+void replaceNarrow(const PixelView view, const Block& block, Pixel colour)
+{
+    const int last = block.columns.length() - kAtOnce;
+    for (int y = block.rows.first; y < block.rows.last; ++y) {
+        Pixel* row = view.row(y) + block.columns.first;
+        store(row, colour);
+        store(row + last, colour);
+    }
+}
+
 void replace(const PixelView& view, const Block& block, Pixel colour)
 {
+    const int length = block.columns.length();
+    if (length >= kAtOnce && length <= 2 * kAtOnce)
+        return replaceNarrow(view, block, colour);
     for (int y = block.rows.first; y < block.rows.last; ++y)
-        fillRow(view.row(y) + block.columns.first, block.columns.length(), colour);
+        std::fill_n(view.row(y) + block.columns.first, length, colour);
 }
 
 /// The colour that takes the place of what it covers in full, if the brush is of one.

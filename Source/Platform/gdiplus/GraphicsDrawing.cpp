@@ -79,12 +79,13 @@ Status Graphics::Clear(const Color& color)
 Status Graphics::fill(const Brush* brush, double x, double y, double width, double height)
 {
     return withState([&](GraphicsState& state) {
-        const auto shader = brush ? brush->shader(state.shading()) : std::nullopt;
+        const vq::gdiplus::ShadingSettings shading = state.shading();
+        const auto shader = brush ? brush->shader(shading) : std::nullopt;
         if (!shader)
             return InvalidParameter;
-        const auto [across, down] = state.pageFactors();
         return state.draw([&](const Canvas& canvas) {
-            fillRectangle(canvas, *shader, x * across, y * down, (x + width) * across, (y + height) * down);
+            fillRectangle(canvas, *shader, x * shading.across, y * shading.down, (x + width) * shading.across,
+                          (y + height) * shading.down);
             return Ok;
         });
     });

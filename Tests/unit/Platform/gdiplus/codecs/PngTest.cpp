@@ -59,6 +59,25 @@ TEST(PngRoundTrip, IsExactForLongRuns)
     EXPECT_LT(file->size(), 1500u);
 }
 
+/// Rows are longer than what the compressor looks back: only the filter can see that they repeat.
+TEST(PngEncode, StoresRowsThatRepeatAsOne)
+{
+    constexpr std::size_t kWidth = 10000;
+    constexpr std::size_t kHeight = 20;
+    const Pixels noise = randomPixels(kWidth, 7);
+    Pixels pixels;
+    for (std::size_t y = 0; y < kHeight; ++y)
+        pixels.insert(pixels.end(), noise.begin(), noise.end());
+
+    const auto file = encodePng(viewOf(pixels, static_cast<int>(kWidth)));
+    ASSERT_TRUE(file);
+    const auto picture = decodePng(file->bytes());
+
+    ASSERT_TRUE(picture);
+    EXPECT_EQ(pixelsOf(*picture), pixels);
+    EXPECT_LT(file->size(), 2 * kWidth * sizeof(gdiplus::Pixel));
+}
+
 TEST(PngEncode, ReadsRowsThatRunUpwards)
 {
     const Pixels pixels{0xFF000001, 0xFF000002, 0xFF000003, 0xFF000004};
