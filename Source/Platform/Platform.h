@@ -6,8 +6,13 @@
 /// system. The framework classes (`CString`, `CArray`, `CDC` ...) are the project's own on both systems.
 
 #include "Platform/DecodedPixels.h"
+#include "Platform/DisplayScale.h"
 #include "Platform/Export.h"
+#include "Platform/FaceName.h"
+#include "Platform/KnownFolders.h"
 #include "Platform/PixelMemory.h"
+#include "Platform/ProfileFile.h"
 #include "Platform/ReplacementFile.h"
 #include "Platform/System.h"
+#include "Platform/UserRegistry.h"
 #include "Platform/afx/Afx.h"

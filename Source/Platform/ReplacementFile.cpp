@@ -1,7 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/ReplacementFile.h"
 
-#if !defined(_WIN32)
+#include <cstdio>
+#include <filesystem>
+
+#if defined(_WIN32)
+#include <io.h>
+#else
 #include "Platform/win32/Strings.h"
 
 #include <cstdlib>
@@ -34,6 +39,16 @@ Made makeFile(const std::wstring& name, const std::wstring&)
     return GetLastError() == ERROR_FILE_EXISTS ? Made::NameIsTaken : Made::No;
 }
 
+bool reachesDisk(std::FILE* file)
+{
+    return _commit(_fileno(file)) == 0;
+}
+
+std::filesystem::path native(const std::wstring& path)
+{
+    return path;
+}
+
 #else
 
 struct Free
@@ -62,6 +77,16 @@ Made makeFile(const std::wstring& name, const std::wstring& target)
         return Made::Yes;
     DeleteFileW(name.c_str());
     return Made::No;
+}
+
+bool reachesDisk(std::FILE* file)
+{
+    return fsync(fileno(file)) == 0;
+}
+
+std::filesystem::path native(const std::wstring& path)
+{
+    return win32::nativePath(path.c_str());
 }
 
 #endif
@@ -100,9 +125,41 @@ ReplacementFile::~ReplacementFile()
         DeleteFileW(path());
 }
 
-bool ReplacementFile::commit()
+bool ReplacementFile::write(std::string_view bytes) const
 {
-    if (!isReady() || !MoveFileExW(path(), m_target.c_str(), MOVEFILE_REPLACE_EXISTING))
+    std::FILE* const file = isReady() ? _wfopen(path(), L"wb") : nullptr;
+    if (!file)
+        return false;
+    const bool isWhole = std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size() && std::fflush(file) == 0;
+    const bool isStored = isWhole && reachesDisk(file);
+    return std::fclose(file) == 0 && isStored;
+}
+
+/// The old file gets a second name, or a copy where a file can have one name only: it never leaves its place.
+void ReplacementFile::keepOld() const
+{
+    namespace fs = std::filesystem;
+    const fs::path old = native(m_target);
+    const fs::path fresh = native(m_name + L".bak");
+    std::error_code error;
+    if (!fs::exists(old, error))
+        return;
+    fs::create_hard_link(old, fresh, error);
+    if (error)
+        fs::copy_file(old, fresh, fs::copy_options::overwrite_existing, error);
+    if (!error)
+        fs::rename(fresh, native(m_target + L".bak"), error);
+    if (error)
+        fs::remove(fresh, error);
+}
+
+bool ReplacementFile::commit(OldFile old)
+{
+    if (!isReady())
+        return false;
+    if (old == OldFile::KeptBeside)
+        keepOld();
+    if (!MoveFileExW(path(), m_target.c_str(), MOVEFILE_REPLACE_EXISTING))
         return false;
     m_name.clear();
     return true;

@@ -5,6 +5,7 @@
 #include "Platform/System.h"
 
 #include <string>
+#include <string_view>
 
 namespace vq::platform {
 
@@ -27,10 +28,20 @@ public:
     bool isReady() const { return !m_name.empty(); }
     /// The name of the file to write, for as long as it has not been put into its place.
     LPCWSTR path() const { return m_name.c_str(); }
+    /// Writes all of the file, as far as the disk.
+    [[nodiscard]] bool write(std::string_view bytes) const;
+
+    /// What becomes of the file that is replaced.
+    enum class OldFile {
+        Gone,
+        KeptBeside, ///< with ".bak" behind its name, in place of an earlier one, where the file system allows that
+    };
     /// Puts the file, which must be closed by now, into its place. False, and nothing has changed, when that fails.
-    [[nodiscard]] bool commit();
+    [[nodiscard]] bool commit(OldFile old = OldFile::Gone);
 
 private:
+    void keepOld() const;
+
     std::wstring m_target;
     std::wstring m_name; // empty: there is none
 };

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <clocale>
 #include <utility>
 
 struct CVQLocaleAPI::Satellite
@@ -90,4 +91,9 @@ BOOL CVQLocaleAPI::LoadCurrentLocaleResource(HINSTANCE module, void* moduleState
             return TRUE;
         }
     return FALSE;
+}
+
+CString CVQLocaleAPI::GetChangeBeforeLanguageName(int)
+{
+    return std::setlocale(LC_NUMERIC, nullptr);
 }

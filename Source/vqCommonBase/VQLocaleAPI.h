@@ -22,6 +22,11 @@ public:
     /// resources stay in use. A satellite stays loaded until this library is unloaded, however often it is asked for.
     BOOL LoadCurrentLocaleResource(HINSTANCE module, void* moduleState);
 
+    /// For whoever is about to read or write the numbers of a text file in the form that the argument chooses: the name
+    /// of the C locale that was in force for numbers before. Here nothing needs a change, because no number of these
+    /// libraries follows a locale; so none takes place, and there is nothing to restore.
+    CString GetChangeBeforeLanguageName(int form);
+
     ~CVQLocaleAPI();
     CVQLocaleAPI(const CVQLocaleAPI&) = delete;
     CVQLocaleAPI& operator=(const CVQLocaleAPI&) = delete;

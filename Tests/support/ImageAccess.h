@@ -55,4 +55,7 @@ struct VQTestAccess
 
     template <typename Image>
     struct PixelRoutines; // the routines behind the other slots, for those who compare them
+    template <typename Shape>
+    struct ShapeData; // of selection shapes
+    struct FacadeData;
 };

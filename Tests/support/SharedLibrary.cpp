@@ -29,6 +29,11 @@ SharedLibrary::~SharedLibrary()
     FreeLibrary(static_cast<HMODULE>(m_handle));
 }
 
+void* SharedLibrary::symbol(const std::string& name) const
+{
+    return reinterpret_cast<void*>(GetProcAddress(static_cast<HMODULE>(m_handle), name.c_str()));
+}
+
 bool SharedLibrary::isInMemory(const std::string& path)
 {
     return GetModuleHandleA(path.c_str()) != nullptr;
@@ -72,6 +77,11 @@ SharedLibrary::SharedLibrary(const std::string& path) : m_handle(dlopen(path.c_s
 SharedLibrary::~SharedLibrary()
 {
     dlclose(m_handle);
+}
+
+void* SharedLibrary::symbol(const std::string& name) const
+{
+    return dlsym(m_handle, name.c_str());
 }
 
 bool SharedLibrary::isInMemory(const std::string& path)

@@ -19,6 +19,9 @@ public:
     SharedLibrary(const SharedLibrary&) = delete;
     SharedLibrary& operator=(const SharedLibrary&) = delete;
 
+    /// The address of what the library exports under the linker's name for it; null when it does not.
+    void* symbol(const std::string& name) const;
+
     /// Whether the process holds the library, whoever has loaded it.
     static bool isInMemory(const std::string& path);
 

@@ -8,6 +8,7 @@
 #include "Platform/afx/CString.h"
 #include "Platform/afx/DeviceContexts.h"
 #include "Platform/afx/Exceptions.h"
+#include "Platform/afx/FileDialog.h"
 #include "Platform/afx/GdiObjects.h"
 #include "Platform/afx/Geometry.h"
 #include "Platform/afx/Module.h"

@@ -104,6 +104,8 @@ BOOL CDC::BitBlt(int x, int y, int width, int height, CDC* source, int sourceX, 
     return ::BitBlt(m_hDC, x, y, width, height, source ? source->m_hDC : nullptr, sourceX, sourceY, operation);
 }
 
+CWnd::~CWnd() = default;
+
 CWindowDC::CWindowDC(CWnd* window) : m_hWnd(window ? window->m_hWnd : nullptr)
 {
     if (!Attach(::GetWindowDC(m_hWnd)))

@@ -12,6 +12,7 @@ class VQPLATFORM_API CWnd : public CObject
 {
 public:
     CWnd() noexcept = default;
+    ~CWnd() override;
 
     HWND m_hWnd = nullptr;
 };

@@ -7,6 +7,7 @@
 #include "Platform/win32/BitmapResources.h"
 #include "Platform/win32/Bitmaps.h"
 #include "Platform/win32/DeviceContexts.h"
+#include "Platform/win32/Dialogs.h"
 #include "Platform/win32/Drawing.h"
 #include "Platform/win32/Errors.h"
 #include "Platform/win32/Files.h"

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <clocale>
 #include <filesystem>
 #include <random>
 
@@ -81,6 +82,15 @@ TEST_F(LocalisedModule, RefusesNullArguments)
 {
     EXPECT_FALSE(CVQLocaleAPI::GetInstance()->LoadCurrentLocaleResource(nullptr, &state));
     EXPECT_FALSE(CVQLocaleAPI::GetInstance()->LoadCurrentLocaleResource(module, nullptr));
+}
+
+TEST(NumbersOfTextFiles, NeedNoOtherLocale)
+{
+    const std::string before = std::setlocale(LC_ALL, nullptr);
+    const CString forNumbers = std::setlocale(LC_NUMERIC, nullptr);
+    for (const int form : {0, 1, -1})
+        EXPECT_EQ(CVQLocaleAPI::GetInstance()->GetChangeBeforeLanguageName(form), forNumbers);
+    EXPECT_EQ(before, std::setlocale(LC_ALL, nullptr));
 }
 
 } // namespace
