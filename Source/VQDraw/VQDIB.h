@@ -514,7 +514,7 @@ public:
 
     /// A label in a box with round corners, which is as large as the text and the margins, from (x, y) on.
     /// The outline is opaque, and the low 8 bits of `borderAlpha` are its width in pixels, deliberately.
-    /// @return the box; (0, 0, 0, 0), with nothing drawn, for an empty text.
+    /// @return the box; (0, 0, 0, 0), with nothing drawn, for an empty text or image.
     CRect TextBox(LONG x, LONG y, const wchar_t* text, COLORREF fillColour, LONG fillAlpha, COLORREF borderColour,
                   LONG borderAlpha, LONG marginX, LONG marginY);
 
@@ -585,7 +585,7 @@ public:
     bool Save(CString path);
 
     /// Finds GDI+'s encoder for a MIME type, which is compared letter by letter. @return its index among the encoders;
-    /// -1, and `*clsid` is left alone, when there is none or an argument is null.
+    /// -1, and `*clsid` is left alone, when there is none, an argument is null, or memory cannot be had.
     static int GetEncoderClsid(const wchar_t* mimeType, CLSID* clsid);
 
     /// Takes the picture of an uncompressed Windows bitmap of 24 bits a pixel, rows from the bottom up; alpha is 255.
@@ -620,8 +620,8 @@ public:
     /// Takes a picture of any format, drawn onto a cleared image. @return false, and the image stays as it was, when
     /// there is none, it cannot be decoded, or memory cannot be had.
     bool ReadFile(CVQArchive* archive);
-    /// Stores the image as PNG, of an empty image a length of 0. @return false when it could not be encoded, which also
-    /// stores a length of 0, or the archive is null.
+    /// Stores the image as PNG; an empty image, and one that cannot be encoded, as a length of 0. @return false for a
+    /// null archive only: whether it could be encoded is not told, deliberately.
     bool WriteFile(CVQArchive* archive);
 
     /// @param[out] bitmap the caller's to delete; null unless true is returned.
@@ -629,9 +629,10 @@ public:
     static bool ReadFileToBitmap(std::FILE* file, Gdiplus::Bitmap*& bitmap);
     /// As `WriteFile`; of a null bitmap a length of 0.
     static bool WriteFileFromBitmap(Gdiplus::Bitmap* bitmap, CVQArchive* archive);
-    /// Writes any of the five formats, with the length before it if asked for. @return false, and nothing is written,
-    /// when the format is none of them or the bitmap cannot be encoded. A stream that takes less than all says so by
-    /// `ferror`, not here.
+    /// Writes any of the five formats by the encoder's own settings, with the length before it if asked for. Nothing is
+    /// written of a bitmap that cannot be encoded, which is not told, deliberately; a stream that takes less than all
+    /// says so by `ferror`. @return false, and nothing is written, for a format that is none of them, one that GDI+ has
+    /// no encoder for, or a null stream.
     static bool WriteFileFromBitmap(Gdiplus::Bitmap* bitmap, std::FILE* file, eImageFormatType format,
                                     bool writeLength);
     /// @}

@@ -75,7 +75,7 @@ public:
     /// @return false, and the texture stays as it was, when there is no picture, it cannot be decoded, or memory cannot
     /// be had. An archive that ends too early throws its `CArchiveException*`.
     bool ReadFile(CVQArchive* archive);
-    /// Of an empty texture a length of 0.
+    /// Of an empty texture a length of 0. @return as that of `CVQDIB`: false for a null archive only.
     bool WriteFile(CVQArchive* archive);
 
     static int GetEncoderClsid(const wchar_t* mimeType, CLSID* clsid);

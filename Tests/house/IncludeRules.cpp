@@ -112,6 +112,9 @@ constexpr std::array<std::string_view, 106> kStandardHeaders{"algorithm",
 constexpr std::string_view kPlatform = "Source/Platform/";
 constexpr std::string_view kCompositor = "Source/Platform/gdiplus/compositor/";
 constexpr std::string_view kCodecs = "Source/Platform/gdiplus/codecs/";
+constexpr std::string_view kProfiles = "Source/Platform/profiles/";
+constexpr std::string_view kExamples = "Examples/";
+constexpr std::string_view kOffScreen = "support/offscreen/"; // OpenGL without a window, for examples and tests
 constexpr std::string_view kPurePromise = "Standard library only";
 
 /// The standard library, and the vector instructions that the compiler brings along on every system.
@@ -132,10 +135,12 @@ bool isLibrary(const SourceFile& file)
     return file.isCpp() && file.isBelow("Source/");
 }
 
-/// The part of Platform/ that is the system's stand-in, or the seam to the real one, calls the system.
+/// The part of Platform/ that is the system's stand-in, or the seam to the real one, calls the system; so does what
+/// opens an OpenGL context without a window.
 bool mayCallTheSystem(const SourceFile& file)
 {
     return isDirectlyIn(file.path, kPlatform) || file.isBelow("Source/Platform/win32/") ||
+           file.isBelow(std::string(kExamples).append(kOffScreen)) ||
            (file.isBelow("Source/Platform/gdiplus/") && !file.isBelow(kCompositor) && !file.isBelow(kCodecs));
 }
 
@@ -144,6 +149,12 @@ bool isCodecLibrary(std::string_view header)
     constexpr std::array<std::string_view, 6> kHeaders{"png.h",    "libdeflate.h", "jpeglib.h",
                                                        "jerror.h", "gif_lib.h",    "tiffio.h"};
     return std::ranges::find(kHeaders, header) != kHeaders.end();
+}
+
+/// Libraries that serve one folder of the layer.
+bool isLibraryOfFolder(const SourceFile& file, std::string_view header)
+{
+    return (file.isBelow(kCodecs) && isCodecLibrary(header)) || (file.isBelow(kProfiles) && header == "SimpleIni.h");
 }
 
 bool mayUseOfPlatform(const SourceFile& file, const Include& include)
@@ -157,6 +168,8 @@ bool mayUseOfPlatform(const SourceFile& file, const Include& include)
         return front || include.isBelow("Platform/afx/");
     if (file.isBelow("Source/Platform/win32/"))
         return front || include.isBelow("Platform/win32/");
+    if (file.isBelow(kProfiles))
+        return front || include.isBelow("Platform/profiles/") || include.isBelow("Platform/win32/");
     if (file.isBelow(kCompositor))
         return include.isBelow("Platform/gdiplus/compositor/");
     if (file.isBelow(kCodecs))
@@ -191,7 +204,9 @@ Faults includeStyleFaults(const SourceFile& file)
     for (const Include& include : includesOf(file)) {
         const bool ofProject = exists("Source", include.header);
         const bool ofFolder = !file.isBelow("Source/") && existsOnTheWayUp(file, include.header);
-        if (include.quoted && !ofProject && !ofFolder)
+        const bool ofOffScreen =
+            !file.isBelow("Source/") && include.isBelow(kOffScreen) && exists(kExamples, include.header);
+        if (include.quoted && !ofProject && !ofFolder && !ofOffScreen)
             faults.push_back(fault(file, include.line, include.header + " is not written from Source/"));
         if (!include.quoted && ofProject && file.isBelow("Source/"))
             faults.push_back(fault(file, include.line, include.header + " belongs in quotes"));
@@ -201,13 +216,13 @@ Faults includeStyleFaults(const SourceFile& file)
 
 Faults systemHeaderFaults(const SourceFile& file)
 {
-    const bool watched = isLibrary(file) || (file.isCpp() && file.isBelow("Examples/"));
+    const bool watched = isLibrary(file) || (file.isCpp() && file.isBelow(kExamples));
     if (!watched || mayCallTheSystem(file))
         return {};
     Faults faults;
     for (const Include& include : includesOf(file)) {
         const bool allowed = include.quoted || isStandard(include.header) || include.isBelow("VQDraw/") ||
-                             (file.isBelow(kCodecs) && isCodecLibrary(include.header));
+                             isLibraryOfFolder(file, include.header);
         if (!allowed)
             faults.push_back(fault(file, include.line, "<" + include.header + "> is no standard C++ header"));
     }

@@ -65,9 +65,22 @@ TEST(IncludeCheck, FindsSystemHeadersInTheFramework)
     EXPECT_THAT(systemHeaderFaults({"Source/Platform/win32/Files.cpp", {"#include <unistd.h>"}}), IsEmpty());
 }
 
+TEST(IncludeCheck, LetsTestsAndExamplesShareTheOffScreenContextOnly)
+{
+    const std::string egl = "#include <EGL/egl.h>";
+    EXPECT_THAT(systemHeaderFaults({"Examples/support/offscreen/EglContext.cpp", {egl}}), IsEmpty());
+    EXPECT_THAT(systemHeaderFaults({"Examples/support/Gallery.cpp", {egl}}), SizeIs(1));
+
+    const std::string context = "#include \"support/offscreen/OffScreenContext.h\"";
+    EXPECT_THAT(includeStyleFaults({"Tests/gl/Scene.h", {context}}), IsEmpty());
+    EXPECT_THAT(includeStyleFaults({"Source/VQDraw/overlay/CVQText.cpp", {context}}), SizeIs(1));
+    EXPECT_THAT(includeStyleFaults({"Tests/gl/Scene.h", {"#include \"support/Photograph.h\""}}), SizeIs(1));
+}
+
 TEST(IncludeCheck, AllowsThePictureLibrariesToTheCodecsOnly)
 {
     EXPECT_THAT(systemHeaderFaults({"Source/Platform/gdiplus/codecs/Png.cpp", {"#include <png.h>"}}), IsEmpty());
+    EXPECT_THAT(systemHeaderFaults({"Source/Platform/profiles/Text.cpp", {"#include <SimpleIni.h>"}}), IsEmpty());
     EXPECT_THAT(systemHeaderFaults({"Source/VQDraw/image/Files.cpp", {"#include <png.h>"}}), SizeIs(1));
 }
 

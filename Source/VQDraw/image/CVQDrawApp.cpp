@@ -3,6 +3,7 @@
 
 #include "VQDraw/VQDIB.h"
 #include "VQDraw/image/StartUpOrder.h"
+#include "VQDraw/image/StartUpSteps.h"
 #include "vqCommonBase/VQLocaleAPI.h"
 
 namespace {
@@ -18,11 +19,14 @@ BOOL CVQDrawApp::InitInstance()
     CWinApp::InitInstance();
     CVQLocaleAPI::GetInstance()->LoadCurrentLocaleResource(m_hInstance, AfxGetStaticModuleState());
     CVQDIB::EnableSIMD();
+    vq::startPreferences();
+    vq::startOverlay();
     return TRUE;
 }
 
 int CVQDrawApp::ExitInstance()
 {
+    vq::stopOverlay();
     CVQDIB::ShutdownGDIPlus();
     return CWinApp::ExitInstance();
 }

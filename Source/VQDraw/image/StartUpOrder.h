@@ -9,8 +9,10 @@ namespace vq {
 
 enum StartUpOrder {
     kModuleObject = 10,
+    kDrawingFacade = 20,
     kImageLock = 30,
     kTextureLock = 40,
+    kMaterialPalette = 50,
 };
 
 } // namespace vq

@@ -189,6 +189,14 @@ TEST(FillHatchRect, LeavesThePictureBetweenItsLines)
     EXPECT_EQ(find(image, 0xFF123456).count, 12 * 6 - 3);
 }
 
+TEST(FillHatchRect, BlendsItsLinesByTheLowBitsOfAlpha)
+{
+    HardImage image(12, 6);
+    image.FillHatchRect(CRect(3, 1, 10, 4), kInk | 0xFF000000, 384, Gdiplus::HatchStyleVertical);
+    EXPECT_EQ(find(image, 0x80102030), (Found{8, 1, 8, 3, 3}));
+    EXPECT_EQ(findDrawn(image).count, 3);
+}
+
 TEST(FillHatchRect, OfAReversedRectangleFillsNothing)
 {
     HardImage image(20, 20);

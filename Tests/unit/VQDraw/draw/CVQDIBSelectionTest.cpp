@@ -157,6 +157,41 @@ TEST(SelectionLabels, AreLeftOutWhereThereIsNoRoom)
     expectLabels({30, 40}, {130, 41}, {{L"100", 30 + (100 - wide.cx) / 2, 40 - wide.cy - 2}});
 }
 
+/// The first number of pixels from 5 on that is as long as its own text.
+LONG asWideAsItsText(LONG CSize::*side)
+{
+    for (LONG i = 5; i < 100; ++i)
+        if (sizeOf(std::to_wstring(i).c_str()).*side == i)
+            return i;
+    return 0;
+}
+
+TEST(SelectionLabels, NeedMoreRoomThanTheyTake)
+{
+    const LONG width = asWideAsItsText(&CSize::cx);
+    const LONG height = asWideAsItsText(&CSize::cy);
+    ASSERT_GT(height, 0);
+    if (width > 0) {
+        expectLabels({30, 40}, {30 + width, 41}, {});
+    }
+    expectLabels({30, 40}, {31, 40 + height}, {});
+    const std::wstring taller = std::to_wstring(height + 1);
+    expectLabels({30, 40}, {31, 41 + height}, {{taller.c_str(), 33, 40}});
+}
+
+TEST(SelectionLabels, StayOutsideDownToTheVeryEdgesOfTheImage)
+{
+    const CSize wide = sizeOf(L"100");
+    const CSize high = sizeOf(L"60");
+    const LONG top = wide.cy + 2;
+    const LONG down = (60 - high.cy) / 2;
+    const LONG across = 30 + (100 - wide.cx) / 2;
+    const int width = 132 + high.cx;
+    expectLabels({30, top}, {130, top + 60}, {{L"100", across, 0}, {L"60", 132, top + down}}, width + 1);
+    expectLabels({30, top - 1}, {130, top + 59}, {{L"100", across, top + 3}, {L"60", 132, top - 1 + down}}, width + 1);
+    expectLabels({30, top}, {130, top + 60}, {{L"100", across, 0}, {L"60", 128 - high.cx, top + down}}, width);
+}
+
 TEST(SelectionLabels, LieBelowTheFill)
 {
     HardImage image(200, 120, kBlack);

@@ -130,5 +130,26 @@ TEST(FarCoordinates, OfHugePensEndAtOnce)
     EXPECT_LT(Clock::now() - begin, kAtOnce);
 }
 
+TEST(FarCoordinates, OfNumbersThatAreNoneOrBeyondAllEndAtOnce)
+{
+    if (differsHere("lines from afar"))
+        return;
+    SmoothImage image(16, 16);
+    const auto begin = Clock::now();
+    constexpr float kInfinite = std::numeric_limits<float>::infinity();
+    for (const float number : {std::numeric_limits<float>::quiet_NaN(), kInfinite, -kInfinite, 3e38F, -3e38F}) {
+        image.LineH(3, kRed, 255, number);
+        image.LineV(3, kRed, 255, number);
+        image.DrawBorder(kRed, 255, number);
+        image.DrawCircle(Gdiplus::Rect(2, 2, 9, 9), Gdiplus::Color(kRedPixel), number, true);
+        image.DrawCircle(CRect(2, 2, 9, 9), kRed, BYTE{255}, number, false);
+        image.FillGradientRoundRect(CRect(2, 2, 9, 9), 3, {number, 0}, {5, number}, kRed, kBlue, 255, 255);
+    }
+    image.DrawCircle(CRect(2, 2, 9, 9), kRed, BYTE{255}, 1e300, false); // beyond single precision
+    EXPECT_LT(Clock::now() - begin, kAtOnce);
+    image.FillRect(CRect(0, 0, 16, 16), kRed, LONG{255});
+    EXPECT_EQ(find(image, kRedPixel).count, 16 * 16) << "it can still be drawn on";
+}
+
 } // namespace
 } // namespace vq::test

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "FileSupport.h"
 #include "support/ImageAccess.h"
+#include "support/Locks.h"
 
 #include <limits>
 
@@ -200,6 +201,41 @@ TEST_F(ImageInArchive, ThatMemoryCannotHoldLeavesTheImage)
     }
 }
 
+TEST_F(ImageInArchive, LeavesTheImagesSettings)
+{
+    image.WriteFile(&archive);
+    archive.SeekToBegin();
+    read.EnableAntialias(false);
+    read.SetFontSize(-33);
+    VQTestAccess::shadowX(read) = 5;
+    EXPECT_TRUE(read.ReadFile(&archive));
+    EXPECT_EQ(read.GetFontSize(), -33);
+    EXPECT_EQ(VQTestAccess::shadowX(read), 5);
+    EXPECT_FALSE(read.IsEnableAntialias());
+    EXPECT_EQ(read.GetGraphics()->GetSmoothingMode(), Gdiplus::SmoothingModeNone);
+    EXPECT_EQ(read.GetGraphics()->GetCompositingMode(), Gdiplus::CompositingModeSourceOver);
+}
+
+TEST_F(ImageInArchive, IsWrittenAndDecodedWithoutTheLock)
+{
+    Gdiplus::Bitmap* bitmap = nullptr;
+    EXPECT_TRUE(finishesWhileLocked(std::chrono::seconds(5), [&] {
+        image.WriteFile(&archive);
+        archive.SeekToBegin();
+        CVQDIB::ReadFileToBitmap(&archive, bitmap);
+    }));
+    ASSERT_TRUE(bitmap);
+    EXPECT_EQ(bitmap->GetWidth(), 12u);
+    delete bitmap;
+}
+
+TEST_F(ImageInArchive, ThatCannotBeEncodedIsALengthOf0AndNotTold)
+{
+    Gdiplus::Bitmap broken(L"no such file");
+    EXPECT_TRUE(CVQDIB::WriteFileFromBitmap(&broken, &archive));
+    EXPECT_EQ(contentOf(archive), FileContent(4, 0));
+}
+
 TEST_F(ImageInArchive, WithoutAnArchiveIsFalse)
 {
     EXPECT_FALSE(image.ReadFile(nullptr));
@@ -249,6 +285,19 @@ TEST_F(BitmapInStream, HasAnyOfTheFiveFormats)
     }
 }
 
+static_assert(CVQDIB::IFT_BMP == 0 && CVQDIB::IFT_JPEG == 1 && CVQDIB::IFT_GIF == 2 && CVQDIB::IFT_TIFF == 3 &&
+              CVQDIB::IFT_PNG == 4);
+
+/// Without parameters the encoder's quality is 75, of which every step of the first table is larger than 1: the
+/// standard's first steps, 16 and 11, become 8 and 6.
+TEST_F(BitmapInStream, IsAJpegFileOfTheEncodersOwnQuality)
+{
+    const std::string jpeg = textOf(written(CVQDIB::IFT_JPEG, false));
+    const std::size_t table = jpeg.find(std::string("\xFF\xDB\x00\x43\x00", 5));
+    ASSERT_NE(table, std::string::npos);
+    EXPECT_EQ(jpeg.substr(table + 5, 2), "\x08\x06");
+}
+
 TEST_F(BitmapInStream, HasItsLengthBeforeItWhenAskedFor)
 {
     const FileContent without = written(CVQDIB::IFT_PNG, false);
@@ -266,10 +315,12 @@ TEST_F(BitmapInStream, OfNoKnownFormatIsNotWritten)
     }
 }
 
-TEST_F(BitmapInStream, ThatCannotBeEncodedIsNotWritten)
+TEST_F(BitmapInStream, ThatCannotBeEncodedIsNotWrittenAndNotTold)
 {
+    Gdiplus::Bitmap broken(L"no such file");
     std::FILE* out = _wfopen(file.path(), L"wb");
-    EXPECT_FALSE(CVQDIB::WriteFileFromBitmap(nullptr, out, CVQDIB::IFT_PNG, true));
+    EXPECT_TRUE(CVQDIB::WriteFileFromBitmap(nullptr, out, CVQDIB::IFT_PNG, true));
+    EXPECT_TRUE(CVQDIB::WriteFileFromBitmap(&broken, out, CVQDIB::IFT_PNG, true));
     std::fclose(out);
     EXPECT_TRUE(file.read().empty());
 }

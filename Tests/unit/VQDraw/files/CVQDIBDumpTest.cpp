@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "FileSupport.h"
 #include "support/ImageAccess.h"
+#include "support/Locks.h"
 
 namespace vq::test {
 namespace {
@@ -86,6 +87,16 @@ TEST_F(Dump, ThatCannotBeWrittenIsFalseAndKeepsTheOldFile)
     EXPECT_EQ(file.read(), dumpOf(3, 2, content));
     EXPECT_TRUE(leavesNothingBehind(file.path()));
     SetFileAttributesW(file.path(), FILE_ATTRIBUTE_NORMAL);
+}
+
+TEST_F(Dump, NeedsNoLock)
+{
+    const FileBeside file(base, L".bmp");
+    EXPECT_TRUE(finishesWhileLocked(std::chrono::seconds(5), [&] {
+        image.DumpAlphaToBMP(file.path());
+        image.DumpToBMP(file.path());
+    }));
+    EXPECT_EQ(file.read(), dumpOf(3, 2, content));
 }
 
 TEST_F(Dump, IsReadBackByGdiPlus)

@@ -186,6 +186,44 @@ TEST(Load, WaitsForTheImagesLockAndSavingDoesNot)
     EXPECT_TRUE(finishesWhileLocked(std::chrono::seconds(5), [&] { image.Save(saved.path()); }));
 }
 
+TEST(Load, LooksForTheFileBeforeItTakesTheLockAndOverABackgroundAfterwards)
+{
+    const TemporaryFile missing(L"missing.png");
+    CVQDIB image(1, 1);
+    EXPECT_TRUE(finishesWhileLocked(std::chrono::seconds(5), [&] { image.Load(missing.path()); }));
+    EXPECT_TRUE(waitsForTheLock([&] { image.Load(missing.path(), 0, 0); }));
+}
+
+TEST(Load, TakesBothSeparators)
+{
+    const PngFile file(1, {0xFF102030});
+    for (const wchar_t* separator : {L"/", L"\\"}) {
+        CString path(file.path());
+        path.Replace(L"/", separator);
+        path.Replace(L"\\", separator);
+        CVQDIB image(2, 2);
+        EXPECT_TRUE(image.Load(path));
+        EXPECT_TRUE(shows(image, {0xFF102030}));
+        CVQDIB overBackground(2, 2);
+        EXPECT_EQ(overBackground.Load(path, RGB(1, 2, 3), 255), 1);
+        EXPECT_TRUE(shows(overBackground, {0xFF102030}));
+    }
+}
+
+TEST(Load, AppliesTheImagesSettingsToItsNewGraphics)
+{
+    const PngFile file(2, Pixels(6, 0xFF102030));
+    CVQDIB image(1, 1);
+    image.EnableAntialias(false);
+    for (const bool overBackground : {false, true}) {
+        EXPECT_TRUE(overBackground ? image.Load(file.path(), 0, 0) == 1 : image.Load(file.path()));
+        EXPECT_FALSE(image.IsEnableAntialias());
+        EXPECT_EQ(image.GetGraphics()->GetSmoothingMode(), Gdiplus::SmoothingModeNone);
+        EXPECT_EQ(image.GetGraphics()->GetTextRenderingHint(), VQTestAccess::renderingHint());
+        EXPECT_EQ(image.GetGraphics()->GetCompositingMode(), Gdiplus::CompositingModeSourceOver);
+    }
+}
+
 TEST(FileConstructors, LoadOrStayEmpty)
 {
     const PngFile file(1, {0xFF102030});

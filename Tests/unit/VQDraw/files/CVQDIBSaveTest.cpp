@@ -273,6 +273,14 @@ TEST(EncoderClsid, FindsTheFiveFormats)
     }
 }
 
+TEST(EncoderClsid, IsNotFoundWhenMemoryCannotHoldTheList)
+{
+    CLSID clsid = encoderId(42);
+    const vq::platform::ScopedAllocationFailure noMemory;
+    EXPECT_EQ(CVQDIB::GetEncoderClsid(L"image/png", &clsid), -1);
+    EXPECT_TRUE(clsid == encoderId(42));
+}
+
 TEST(EncoderClsid, ComparesLetterByLetter)
 {
     CLSID clsid = encoderId(42);

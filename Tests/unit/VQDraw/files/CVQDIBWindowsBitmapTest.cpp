@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "FileSupport.h"
+#include "support/ImageAccess.h"
+#include "support/Locks.h"
 
 #include <cstring>
 #include <limits>
@@ -172,6 +174,26 @@ TEST_F(WindowsBitmap, AndItsMaskMakeAnImage)
     EXPECT_EQ(maskOnly.GetColor(3, 0), 0u);
     CVQDIB neither(missing.path(), missing.path());
     EXPECT_TRUE(shows(neither, Pixels(16, 0)));
+}
+
+TEST_F(WindowsBitmap, LeavesTheImagesSettings)
+{
+    write({.width = 3, .height = 2, .pixels = kThreeByTwo});
+    image.EnableAntialias(false);
+    image.SetFontSize(-33);
+    VQTestAccess::shadowX(image) = 5;
+    EXPECT_TRUE(image.LoadBMP(file.path()));
+    EXPECT_EQ(image.GetFontSize(), -33);
+    EXPECT_EQ(VQTestAccess::shadowX(image), 5);
+    EXPECT_FALSE(image.IsEnableAntialias());
+    EXPECT_EQ(image.GetGraphics()->GetSmoothingMode(), Gdiplus::SmoothingModeNone);
+}
+
+TEST_F(WindowsBitmap, AsAMaskNeedsNoLock)
+{
+    write({.width = 3, .height = 2, .pixels = kThreeByTwo});
+    EXPECT_TRUE(finishesWhileLocked(std::chrono::seconds(5), [this] { image.LoadMaskBMP(file.path()); }));
+    EXPECT_EQ(image.GetA(1, 0), 64);
 }
 
 TEST_F(WindowsBitmap, OfManyRowsIsReadInFull)

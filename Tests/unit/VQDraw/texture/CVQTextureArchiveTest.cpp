@@ -88,6 +88,13 @@ TEST(TextureInArchive, IsTheSameBlockAsThatOfAnImage)
     EXPECT_TRUE(image.ReadFile(&archive));
     EXPECT_EQ(image.GetWidth(), 5);
     EXPECT_EQ(image.GetColor(4, 3), 0xFF332211u);
+
+    texture.ClearMask(0x80);
+    texture.WriteFile(&archive);
+    archive.SeekToBegin();
+    image.ReadFile(&archive); // the first block once more
+    image.ReadFile(&archive);
+    EXPECT_EQ(image.GetA(4, 3), 0x80) << "alpha is the mask";
 }
 
 TEST(TextureInArchive, ThatCannotBeReadLeavesTheTexture)

@@ -2,6 +2,7 @@
 #include "VQDraw/VQTexture.h"
 
 #include "parity/KnownDifferences.h"
+#include "support/Locks.h"
 
 #include <gtest/gtest.h>
 
@@ -158,6 +159,30 @@ TEST(Texture, TheLockCanBeTakenWhileTexturesAreMade)
     OpenTexture::m_criticalSection.Unlock();
 }
 
+TEST(Texture, WaitsForTheLockToMakeAndToDropItsBuffer)
+{
+    CCriticalSection& lock = OpenTexture::m_criticalSection;
+    auto* texture = new OpenTexture(4, 4);
+    EXPECT_TRUE(waitsForTheLock(lock, [] { const CVQTexture other(4, 4); }));
+    EXPECT_TRUE(waitsForTheLock(lock, [&] { texture->Resize(5, 5); }));
+    EXPECT_TRUE(waitsForTheLock(lock, [&] { texture->Destroy(); }));
+    EXPECT_TRUE(waitsForTheLock(lock, [&] { delete texture; }));
+}
+
+TEST(Texture, PaintsWithoutTheLock)
+{
+    OpenTexture texture(8, 8);
+    CPoint corners[] = {CPoint(1, 1), CPoint(5, 1), CPoint(5, 5)};
+    EXPECT_TRUE(finishesWhileLocked(OpenTexture::m_criticalSection, std::chrono::seconds(5), [&] {
+        texture.Clear(0x00FFFFFF, 1);
+        texture.ClearMask(2);
+        texture.ClearRgn(corners, 3, 0x00FFFFFF, 3);
+        texture.ClearRgnPath(corners, 3, 1, 0x00FFFFFF, 3);
+    }));
+    EXPECT_EQ(texture(7, 7), 0x02FFFFFF);
+    EXPECT_EQ(texture(5, 3), 0x03FFFFFF);
+}
+
 TEST(TextureAssignment, SharesTheBuffer)
 {
     CVQTexture first(4, 4);
@@ -281,6 +306,36 @@ TEST(TextureOutline, LiesHalfOnEachSideOfThePolygon)
     EXPECT_EQ(texels(texture), drawn({"..........", "..........", "..######..", "..######..", "..##..##..",
                                       "..##..##..", "..######..", "..######..", "..........", ".........."},
                                      0xFFFFFFFF));
+}
+
+TEST(TextureOutline, ReplacesAndDoesNotBlend)
+{
+    CVQTexture texture(6, 5);
+    texture.Clear(0x00FFFFFF, 0xFF);
+    CPoint corners[] = {CPoint(1, 1), CPoint(4, 1), CPoint(4, 3), CPoint(1, 3)};
+    texture.ClearRgnPath(corners, 4, 1, 0x00102030, 0x01);
+    EXPECT_EQ(texture(2, 1), 0x01102030);
+    EXPECT_EQ(texture(4, 2), 0x01102030);
+    EXPECT_EQ(texture(0, 0), texel(0xFFFFFFFF));
+    if (!differsHere("outlines under SourceCopy")) {
+        EXPECT_EQ(texture(2, 2), texel(0xFFFFFFFF));
+    }
+    texture.ClearRgnPath(corners, 4, 1, texel(0xF0102030), 0x0F);
+    EXPECT_EQ(texture(2, 1), texel(0xFF102030)) << "the top byte of the colour is added to the mask";
+}
+
+TEST(TextureOutline, IsSmoothWhenAskedTo)
+{
+    if (differsHere("smoothed outlines"))
+        return;
+    CVQTexture texture(9, 9);
+    CPoint corners[] = {CPoint(1, 1), CPoint(7, 2), CPoint(3, 7)};
+    const auto isPartly = [](LONG value) { return value != 0 && value != -1; };
+    texture.ClearRgnPath(corners, 3, 1, 0x00FFFFFF, 0xFF);
+    EXPECT_TRUE(std::ranges::none_of(texels(texture), isPartly));
+    texture.EnableAntialias(true);
+    texture.ClearRgnPath(corners, 3, 1, 0x00FFFFFF, 0xFF);
+    EXPECT_TRUE(std::ranges::any_of(texels(texture), isPartly));
 }
 
 TEST(TextureOutline, OfANegativeWidthIsOneWide)

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+/// @file
+/// The way of the selection colour from the preferences to the selection shapes, which stand above them.
+
+namespace vq {
+
+/// What whoever reads preferences calls when it has finished: the shapes that exist take the colour that
+/// `DPC_SELECTION_TOOL` has now. Nothing before shapes have been asked for.
+void handOverSelectionColour();
+
+/// For the shapes' start-up. Null: nobody takes the colour.
+void whenSelectionColourIsRead(void (*take)());
+
+} // namespace vq
