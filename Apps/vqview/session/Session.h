@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "vqview/overlay/VertexValues.h"
 #include "vqview/session/Input.h"
 #include "vqview/session/Tool.h"
 
 #include <VQDraw/VQDraw.h>
 
+#include <chrono>
 #include <cstddef>
+#include <cstdint>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -23,7 +26,7 @@ struct Shown
     bool edges = false;
     bool vertices = false; ///< a cloud's are always shown
     bool labels = true;
-    bool report = true; ///< colour bar, histogram and title over the view
+    bool report = true; ///< colour bar, histogram and title over the view, points in the colours of their values
     bool keys = false;  ///< the list of keys
 };
 
@@ -47,10 +50,22 @@ public:
     int height() const;
     /// Draws the whole frame with the current context.
     void draw();
+    /// The frame as `draw` makes it, but for notice, status line and keys, into an image of its size. Of an image that
+    /// memory is missing for it makes nothing.
+    void drawTo(CVQDIB& image);
+    /// The report: the same with colour bar, histogram and title, whether they are shown or not, and with the shape
+    /// that is being drawn.
+    void drawReportTo(CVQDIB& image);
+    /// How the scan is looked at.
+    SVQGLVariables view() const;
+    /// Lets go of what lives in the current context; the next frame makes it anew.
+    void releaseGraphics();
     /// Whether anything has changed since the last frame, or goes on by itself.
     bool wantsFrame() const;
     /// Takes over what the loading thread has finished, and lets notices go whose time is over. Once a frame.
     void poll();
+    using Clock = std::chrono::steady_clock;
+    void poll(Clock::time_point now);
     /// @}
 
     /// @name Events
@@ -101,6 +116,8 @@ public:
     void selectAll();
     void selectNone();
     void invertSelection();
+    /// Points picked for measuring, in the order of picking.
+    const std::vector<std::uint32_t>& picked() const;
     /// @}
 
     /// @name The view
@@ -110,6 +127,9 @@ public:
     bool isOrthographic() const;
     void setOrthographic(bool orthographic);
     void lookAlong(Side side);
+    /// What colours the points and is counted in the histogram.
+    VertexValue value() const;
+    void setValue(VertexValue value);
     /// @}
 
     /// @name Files. Each answers whether it worked, and says so in a notice.
@@ -121,6 +141,10 @@ public:
     /// Preferences, report image, texture and selection in one archive.
     bool saveDocument(const std::filesystem::path& path);
     bool openDocument(const std::filesystem::path& path);
+    /// The report that was saved or opened last.
+    CVQDIB& reportImage();
+    /// The frame as a texture, in which every selection has painted its outline.
+    CVQTexture& texture();
     /// @}
 
     /// @name Texts, UTF-8
@@ -137,6 +161,9 @@ public:
 
 private:
     struct State;
+
+    void selectionEnded();
+
     std::unique_ptr<State> m_state;
 };
 

@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: MIT
+#include "vqview/offscreen/OffScreenRun.h"
+
+#include "support/Gallery.h"
+#include "support/offscreen/OffScreenContext.h"
+#include "vqview/session/Script.h"
+#include "vqview/session/Session.h"
+#include "vqview/session/Text.h"
+
+#include <cstdio>
+#include <fstream>
+#include <iterator>
+#include <optional>
+#include <thread>
+
+namespace vqview {
+
+namespace {
+
+int fail(const std::string& what)
+{
+    std::fprintf(stderr, "vqview: %s\n", what.c_str());
+    return 1;
+}
+
+std::optional<std::string> textOf(const std::filesystem::path& file)
+{
+    std::ifstream stream(file, std::ios::binary);
+    if (!stream)
+        return std::nullopt;
+    return std::string{std::istreambuf_iterator<char>(stream), {}};
+}
+
+/// A session with a picture of its own to draw into, which changes with the size asked for.
+class Studio
+{
+public:
+    /// @return empty, or what failed.
+    std::string setSize(int width, int height, float scale)
+    {
+        if (!m_context || m_context->width() != width || m_context->height() != height) {
+            if (m_session)
+                m_session->releaseGraphics();
+            m_context.reset(); // only one at a time
+            std::string reason;
+            m_context = OffScreenContext::make(width, height, reason);
+            if (!m_context)
+                return "OpenGL does not work here: " + reason;
+        }
+        if (!m_session)
+            m_session = std::make_unique<Session>();
+        m_session->setSize(width, height, scale);
+        return {};
+    }
+    Session& session() { return *m_session; }
+
+private:
+    std::unique_ptr<OffScreenContext> m_context;
+    std::unique_ptr<Session> m_session; // goes first: it owns what is in the context
+};
+
+/// Shows the scan. @return empty, or why it cannot be shown.
+std::string showScan(Session& session, const std::filesystem::path& file)
+{
+    session.open(file);
+    while (session.isLoading()) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+        session.poll();
+    }
+    return session.model() ? std::string() : session.notice();
+}
+
+bool keepPicture(Session& session, Gallery& gallery, const std::string& name, const std::string& caption, bool isReport)
+{
+    CVQDIB picture(session.width(), session.height());
+    if (isReport)
+        session.drawReportTo(picture);
+    else
+        session.drawTo(picture);
+    return gallery.add(picture, name, caption);
+}
+
+} // namespace
+
+int runOffScreen(const OffScreenOptions& options)
+{
+    const std::optional<std::string> script = textOf(options.script);
+    if (!script)
+        return fail("there is no script '" + shown(options.script) + "'");
+    Studio studio;
+    if (const std::string failure = studio.setSize(options.width, options.height, 1); !failure.empty())
+        return fail(failure);
+    if (!options.model.empty())
+        if (const std::string failure = showScan(studio.session(), options.model); !failure.empty())
+            return fail(failure);
+
+    Gallery gallery(options.folder, "vqview", "vqview: the library at work on a scan");
+    ScriptStage stage{
+        studio.session(),
+        [&](int width, int height, float scale) {
+            if (const std::string failure = studio.setSize(width, height, scale); !failure.empty())
+                fail(failure);
+        },
+        [&](const std::string& name, const std::string& caption, bool isReport) {
+            return keepPicture(studio.session(), gallery, name, caption, isReport);
+        },
+        [](const std::string& line) { std::printf("%s\n", line.c_str()); },
+    };
+    const std::vector<std::string> faults = runScript(*script, stage);
+    for (const std::string& fault : faults)
+        fail(shown(options.script.filename()) + ", " + fault);
+    const bool isWritten = gallery.finish() || fail("cannot write to '" + shown(options.folder) + "'") == 0;
+    return faults.empty() && isWritten ? 0 : 1;
+}
+
+} // namespace vqview

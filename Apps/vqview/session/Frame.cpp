@@ -1,0 +1,178 @@
+// SPDX-License-Identifier: MIT
+// What a session draws.
+#include "vqview/overlay/ColourRamp.h"
+#include "vqview/overlay/Labels.h"
+#include "vqview/overlay/Markers.h"
+#include "vqview/overlay/Notices.h"
+#include "vqview/overlay/ViewImage.h"
+#include "vqview/session/State.h"
+
+namespace vqview {
+
+namespace {
+
+/// Coordinates of OpenGL are pixels while this lives, the origin at the lower left, as selection shapes are drawn.
+class PixelMatrices
+{
+public:
+    PixelMatrices(int width, int height)
+    {
+        glMatrixMode(GL_PROJECTION);
+        glPushMatrix();
+        glLoadIdentity();
+        glOrtho(0, width, 0, height, -1, 1);
+        glMatrixMode(GL_MODELVIEW);
+        glPushMatrix();
+        glLoadIdentity();
+    }
+    PixelMatrices(const PixelMatrices&) = delete;
+    PixelMatrices& operator=(const PixelMatrices&) = delete;
+    ~PixelMatrices()
+    {
+        glPopMatrix();
+        glMatrixMode(GL_PROJECTION);
+        glPopMatrix();
+        glMatrixMode(GL_MODELVIEW);
+    }
+};
+
+constexpr float kMarkerPixels = 5; // radius of a sphere at a picked point, units
+
+} // namespace
+
+void Session::State::drawScene()
+{
+    if (!scene)
+        scene.emplace();
+    if (!isSceneOfModel) {
+        scene->setModel(model);
+        isSceneOfModel = true;
+        sceneSelection = 0;
+        areColoursShown = false;
+    }
+    if (sceneSelection != selecting.version()) {
+        scene->setSelected(selecting.indices());
+        sceneSelection = selecting.version();
+    }
+    if (areColoursShown != shown.report) {
+        areColoursShown = shown.report;
+        std::vector<CVQColor> colours;
+        if (areColoursShown && model)
+            coloursOf(knownValues(), colours);
+        scene->setColours(colours);
+    }
+    scene->draw(camera.variables(), shown.faces, shown.edges, shown.vertices, scale);
+}
+
+float Session::State::markerRadius() const
+{
+    // How long a pixel is at the first picked point: the viewer sees two places a unit of length apart.
+    SVQGLVariables view = camera.variables();
+    const Point3 at = picked.empty() ? Point3() : model->positions[picked.front()];
+    double x = 0, y = 0, z = 0, beside[3]{};
+    gluProject(at.x, at.y, at.z, view.m_dModelView, view.m_dProjection, view.m_iViewport, &x, &y, &z);
+    gluUnProject(x + kMarkerPixels * scale, y, z, view.m_dModelView, view.m_dProjection, view.m_iViewport, &beside[0],
+                 &beside[1], &beside[2]);
+    return static_cast<float>(std::hypot(beside[0] - at.x, beside[1] - at.y, beside[2] - at.z));
+}
+
+void Session::State::drawMarks()
+{
+    if (!model)
+        return;
+    const SVQGLVariables view = camera.variables();
+    if (shown.labels)
+        drawBounds(model->bounds, view, scale);
+    if (picked.empty())
+        return;
+    std::vector<Marker> markers;
+    addMeasureMarkers(pickedPoints(), markers);
+    if (model->normals.size() == model->positions.size())
+        markers.push_back({MarkerKind::Disk, model->positions[picked.back()], model->normals[picked.back()], {},
+                           DPM_REGION_PLANE});
+    drawMarkers(markers, view, markerRadius(), scale);
+}
+
+void Session::State::drawShape()
+{
+    if (!selecting.isDrawing())
+        return;
+    const PixelMatrices matrices(width, height);
+    SVQGLVariables view = camera.variables();
+    CVQDrawingAPI::DrawDrag(view);
+}
+
+ReportContent Session::State::reportContent()
+{
+    ReportContent content;
+    content.title = model->title;
+    content.lines = factsOf(*model, selecting.indices().size());
+    content.valueName = rowOf(value).name;
+    content.unit = rowOf(value).unit;
+    content.values = knownValues();
+    content.selected = selecting.indices();
+    return content;
+}
+
+void Session::State::drawOverlay(CVQDIB& image, bool withReport, bool withShape)
+{
+    if (!model)
+        return;
+    const SVQGLVariables view = camera.variables();
+    if (withReport)
+        drawReport(image, reportContent(), scale);
+    if (shown.labels) {
+        const std::vector<Point3> points = pickedPoints();
+        addLabels({points, model->bounds, selecting.indices().size(), selectedCentre()}, view, scale);
+    }
+    if (shown.labels || withShape)
+        drawLabels(image, view, scale, withShape ? DragShapes::Drawn : DragShapes::LeftOut);
+}
+
+void Session::draw()
+{
+    m_state->drawScene();
+    m_state->drawMarks();
+    m_state->drawShape();
+    CVQDIB image(width(), height());
+    image.EnableAntialias(true);
+    m_state->drawOverlay(image, m_state->shown.report, false);
+    drawStatus(image, statusLine(), m_state->scale);
+    drawNotice(image, m_state->notice, m_state->scale);
+    if (m_state->shown.keys)
+        drawKeys(image, m_state->scale);
+    drawOver(image, view());
+    m_state->wantsFrame = false;
+}
+
+void Session::drawTo(CVQDIB& image)
+{
+    m_state->drawScene();
+    m_state->drawMarks();
+    m_state->drawShape();
+    CVQDIB overlay(width(), height());
+    overlay.EnableAntialias(true);
+    m_state->drawOverlay(overlay, m_state->shown.report, false);
+    drawOver(overlay, view());
+    copyFrame(image, view());
+    m_state->wantsFrame = true;
+}
+
+void Session::drawReportTo(CVQDIB& image)
+{
+    m_state->drawScene();
+    m_state->drawMarks();
+    copyFrame(image, view());
+    image.EnableAntialias(true);
+    m_state->drawOverlay(image, true, true);
+    m_state->wantsFrame = true;
+}
+
+void Session::releaseGraphics()
+{
+    m_state->scene.reset();
+    m_state->isSceneOfModel = false;
+    m_state->lookedElsewhere();
+}
+
+} // namespace vqview
