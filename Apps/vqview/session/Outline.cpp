@@ -40,7 +40,8 @@ std::vector<CPoint> outlineOf(const CVQDragCircle& circle)
 
 std::vector<CPoint> outlineOf(const CVQDragLine& band)
 {
-    const double dx = band.GetEndX() - double{band.GetStartX()}, dy = band.GetEndY() - double{band.GetStartY()};
+    const double dx = static_cast<double>(band.GetEndX()) - band.GetStartX();
+    const double dy = static_cast<double>(band.GetEndY()) - band.GetStartY();
     const double length = std::hypot(dx, dy);
     if (band.GetWidth() <= 0 || length == 0)
         return {};

@@ -40,7 +40,7 @@ unsigned int modeOfTool(Tool tool)
 
 double distance(CPoint a, CPoint b)
 {
-    return std::hypot(double{a.x} - b.x, double{a.y} - b.y);
+    return std::hypot(static_cast<double>(a.x) - b.x, static_cast<double>(a.y) - b.y);
 }
 
 } // namespace
@@ -157,7 +157,7 @@ bool Selecting::wheel(double steps)
         return false;
     constexpr int kLeast = 1, kMost = 1000;
     CVQDragLine& band = *CVQDrawingAPI::DragLine();
-    const double width = std::clamp<double>(std::lround(band.GetWidth() + steps * 2 * m_scale), kLeast, kMost);
+    const double width = std::clamp<double>(std::round(band.GetWidth() + steps * 2 * m_scale), kLeast, kMost);
     band.SetWidth(static_cast<int>(width));
     return true;
 }
