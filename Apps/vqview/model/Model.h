@@ -32,11 +32,11 @@ Bounds boundsOf(const std::vector<Point3>& positions);
 /// A scan in memory: a mesh, or a cloud of points, which has no triangles. Nobody changes it once it is shown.
 struct Model
 {
-    std::string title;                                  ///< the file's name without its folder, UTF-8
-    std::vector<Point3> positions;                      ///< each once: equal corners are one
-    std::vector<Point3> normals;                        ///< of unit length, one a position; of a cloud maybe none
+    std::string title;                                   ///< the file's name without its folder, UTF-8
+    std::vector<Point3> positions;                       ///< each once: equal corners are one
+    std::vector<Point3> normals;                         ///< of unit length, one a position; of a cloud maybe none
     std::vector<std::array<std::uint32_t, 3>> triangles; ///< indices of positions, counterclockwise from outside
-    std::vector<std::array<std::uint32_t, 2>> edges;    ///< each side of a triangle once, smaller index first
+    std::vector<std::array<std::uint32_t, 2>> edges;     ///< each side of a triangle once, smaller index first
     Bounds bounds;
 
     bool isCloud() const { return triangles.empty(); }
