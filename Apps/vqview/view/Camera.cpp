@@ -55,9 +55,10 @@ double exact(double sineOrCosine)
     return std::fabs(sineOrCosine) < 1e-15 ? 0 : sineOrCosine;
 }
 
-bool areFinite(std::initializer_list<double> numbers)
+/// Finite, and so small that no product of it overflows.
+bool areUsable(std::initializer_list<double> numbers)
 {
-    return std::ranges::all_of(numbers, [](double number) { return std::isfinite(number); });
+    return std::ranges::all_of(numbers, [](double number) { return std::fabs(number) < 1e9; });
 }
 
 std::array<double, 3> inDouble(const Point3& point)
@@ -103,7 +104,7 @@ void Camera::fit(const Bounds& bounds)
 
 void Camera::turn(double dx, double dy)
 {
-    if (!areFinite({dx, dy}))
+    if (!areUsable({dx, dy}))
         return;
     const double perPixel = kPi / std::min(m_width, m_height);
     m_yaw = std::remainder(m_yaw - dx * perPixel, 2 * kPi);
@@ -112,7 +113,7 @@ void Camera::turn(double dx, double dy)
 
 void Camera::pan(double dx, double dy)
 {
-    if (!areFinite({dx, dy}))
+    if (!areUsable({dx, dy}))
         return;
     const double perPixel = m_span / std::min(m_width, m_height);
     moveTarget({-dx * perPixel, dy * perPixel, 0});
@@ -132,7 +133,7 @@ void Camera::zoom(double steps, double x, double y, const Point3& under)
 /// Makes everything smaller or larger round a point, the viewer's place included: its line of sight stays.
 void Camera::zoomAt(double steps, double x, double y, double depth)
 {
-    if (!areFinite({steps, x, y}))
+    if (!areUsable({steps, x, y}))
         return;
     const double wanted = m_span * std::pow(kNearerPerStep, std::clamp(steps, -kMostSteps, kMostSteps));
     const double span = std::clamp(wanted, kSmallestSpan * m_radius, kLargestSpan * m_radius);

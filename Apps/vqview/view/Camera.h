@@ -14,7 +14,8 @@ namespace vqview {
 ///
 /// Pixels count from the window's upper left corner, y downwards, and need not be whole: pixel (0, 0) ends at (1, 1).
 /// The picture's smaller side spans 30 degrees. Whatever is handed in, the matrices are of finite numbers: a move that
-/// is none is not made, and the viewer goes neither nearer nor farther than the scene's size makes sense of.
+/// is not a number or beyond all windows is not made, and the viewer goes neither nearer nor farther than the scene's
+/// size makes sense of.
 class Camera
 {
 public:

@@ -5,6 +5,7 @@
 
 #include <VQDraw/VQDraw.h>
 
+#include <array>
 #include <cstdint>
 #include <memory>
 #include <vector>
@@ -42,12 +43,23 @@ public:
 
     /// How deep each pixel of the last frame's surface lies, 0 near .. 1 far and where there is nothing, rows from the
     /// bottom up, as many as the viewport has; to be called before anything else is drawn. Of what `draw` draws, faces
-    /// and the points of a cloud have depth; a face's is a hair greater than that of its corners.
+    /// and the points of a cloud have depth.
     void readDepth(const SVQGLVariables& view, std::vector<float>& depth) const;
 
 private:
+    /// What a display list each is kept of.
+    enum class Part { Surface, Edges, Vertices, End };
+
+    void drawSurface(float scale);
+    void drawEdges(const SVQGLVariables& view, float scale);
+    void drawVertices(const SVQGLVariables& view, float scale);
+    void drawSelected(const SVQGLVariables& view, float scale) const;
+    void drawPart(Part part);
+    void dropParts();
+
     std::shared_ptr<const Model> m_model;
     std::vector<std::uint32_t> m_selected;
+    std::array<unsigned int, static_cast<std::size_t>(Part::End)> m_lists{}; ///< 0 is none yet
 };
 
 } // namespace vqview
