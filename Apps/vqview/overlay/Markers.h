@@ -20,9 +20,9 @@ enum class MarkerKind {
 struct Marker
 {
     MarkerKind kind = MarkerKind::Sphere;
-    Point3 at;
+    Point3 at{};
     Point3 direction{0, 0, 1};                          ///< of a disk, of any length above 0
-    Point3 to;                                          ///< of a line
+    Point3 to{};                                        ///< of a line
     eDrawPropertyMaterial material = DPM_REGION_SPHERE; ///< of spheres and disks; lines are in `DPC_MEASURE`
 };
 
