@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+#include "vqview/overlay/Notices.h"
+#include "vqview/overlay/Panels.h"
+
+#include <algorithm>
+
+namespace vqview {
+
+namespace {
+
+constexpr float kMargin = 12; // lengths are in units
+constexpr float kPadding = 16;
+constexpr float kRowGap = 3;
+constexpr float kGap = 14;       // from a key to what it does
+constexpr float kColumnGap = 32; // from one column to the next
+constexpr float kCorner = 10;
+
+/// Where the list's parts lie.
+struct KeyGrid
+{
+    LONG keyWidth = 0, effectWidth = 0;
+    LONG rowHeight = 0;
+    LONG columns = 1;
+    LONG rows = 0; ///< a column
+
+    LONG width(float scale) const
+    {
+        const LONG column = keyWidth + pixels(kGap, scale) + effectWidth;
+        return columns * column + (columns - 1) * pixels(kColumnGap, scale) + 2 * pixels(kPadding, scale);
+    }
+    LONG height(float scale) const { return rows * rowHeight - pixels(kRowGap, scale) + 2 * pixels(kPadding, scale); }
+};
+
+struct KeyStyles
+{
+    TextStyle key, effect;
+};
+
+KeyStyles stylesOf(float scale)
+{
+    KeyStyles styles{styleOf(DPF_UI_CTRL_FONT, scale), styleOf(DPF_UI_CTRL_FONT, scale)};
+    styles.key.colour = CVQDrawProperty::GetVQColor(DPC_UI_CTRL_SELECT).GetCOLORREF();
+    styles.effect.colour = CVQDrawProperty::GetVQColor(DPC_UI_CTRL_TEXT).GetCOLORREF();
+    return styles;
+}
+
+/// Two columns where they fit into the room, otherwise one, with as many rows as fit, and effects cut to the width.
+KeyGrid gridFor(const CSize& room, const KeyStyles& styles, float scale)
+{
+    constexpr LONG kCount = static_cast<LONG>(kKeyRows.size());
+    KeyGrid grid;
+    for (const KeyRow& row : kKeyRows) {
+        grid.keyWidth = std::max(grid.keyWidth, styles.key.widthOf(wide(row.key)));
+        grid.effectWidth = std::max(grid.effectWidth, styles.effect.widthOf(wide(row.effect)));
+    }
+    grid.rowHeight = styles.key.lineHeight() + pixels(kRowGap, scale);
+    const LONG fitting = (room.cy - 2 * pixels(kPadding, scale) + pixels(kRowGap, scale)) / grid.rowHeight;
+    grid.columns = 2;
+    if (grid.width(scale) > room.cx)
+        grid.columns = 1;
+    grid.rows = std::clamp<LONG>(fitting, 0, (kCount + grid.columns - 1) / grid.columns);
+    grid.effectWidth -= std::max<LONG>(grid.width(scale) - room.cx, 0);
+    return grid;
+}
+
+void drawRow(CVQDIB& image, const KeyStyles& styles, const KeyGrid& grid, const KeyRow& row, CPoint at, float scale)
+{
+    const LONG effect = at.x + grid.keyWidth + pixels(kGap, scale);
+    drawLine(image, styles.key, wide(row.key), at.x, at.x + grid.keyWidth, at.y);
+    drawLine(image, styles.effect, styles.effect.fitted(wide(row.effect), grid.effectWidth), effect,
+             effect + grid.effectWidth, at.y);
+}
+
+void drawPanel(CVQDIB& image, const CRect& box, float scale)
+{
+    const CVQColor colour =
+        withAlpha(CVQDrawProperty::GetVQColor(DPC_UI_CTRL_BG), CVQDrawProperty::m_ucUICtrlAlpha[DPC_UI_MGR_ALPHA]);
+    constexpr CVQColor kDarker(30, 30, 30);
+    dropShadow(image, box, pixels(kCorner, scale), scale);
+    fillRounded(image, box, pixels(kCorner, scale), Corners::All, {colour - kDarker, colour - kDarker});
+}
+
+} // namespace
+
+CRect drawKeys(CVQDIB& image, float scale)
+{
+    const KeyStyles styles = stylesOf(scale);
+    const LONG margin = pixels(kMargin, scale);
+    const CSize room(image.GetWidth() - 2 * margin, image.GetHeight() - noticeRows(scale) - margin);
+    const KeyGrid grid = gridFor(room, styles, scale);
+    if (grid.rows < 1 || grid.effectWidth < grid.rowHeight)
+        return {};
+    const CSize size(grid.width(scale), grid.height(scale));
+    const CPoint corner(margin + (room.cx - size.cx) / 2, margin + (room.cy - size.cy) / 2);
+    const CRect box(corner, size);
+    drawPanel(image, box, scale);
+    const CPoint first = corner + CPoint(pixels(kPadding, scale), pixels(kPadding, scale));
+    const LONG columnStep = (size.cx - 2 * pixels(kPadding, scale) + pixels(kColumnGap, scale)) / grid.columns;
+    for (LONG i = 0; i < std::min<LONG>(grid.rows * grid.columns, static_cast<LONG>(kKeyRows.size())); ++i)
+        drawRow(image, styles, grid, kKeyRows[static_cast<std::size_t>(i)],
+                first + CPoint(i / grid.rows * columnStep, i % grid.rows * grid.rowHeight), scale);
+    return box;
+}
+
+} // namespace vqview

@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: MIT
+#include "vqview/model/Model.h"
+#include "vqview/overlay/ReportLayout.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace vqview {
+
+namespace {
+
+CString countText(std::size_t count)
+{
+    return CVQUnit::GetDeciPointedString(static_cast<double>(count), false, VQ_UNIT_END, true, false, false, 0);
+}
+
+/// " mm" and the like; empty for none.
+CString unitText(eVQUnit unit)
+{
+    if (unit < 0 || unit >= VQ_UNIT_END)
+        return {};
+    return CVQUnit::GetDeciPointedString(0, true, unit, false, true, false, 0).Mid(1);
+}
+
+CString headingOf(const ReportContent& content, int exponent)
+{
+    CString heading = wide(content.valueName);
+    CString unit = unitText(content.unit);
+    unit.Trim();
+    if (exponent != 0) {
+        CString power;
+        power.Format(L"10^%d", exponent);
+        unit = unit.IsEmpty() ? power : power + L" " + unit;
+    }
+    return unit.IsEmpty() ? heading : heading + L" (" + unit + L")";
+}
+
+ReportTexts::Row factOf(const std::string& line)
+{
+    const std::size_t tab = line.find('\t');
+    if (tab == std::string::npos)
+        return {wide(line), CString()};
+    return {wide(line.substr(0, tab)), wide(line.substr(tab + 1))};
+}
+
+std::string utf8(const CString& text)
+{
+    const int bytes = WideCharToMultiByte(CP_UTF8, 0, text, text.GetLength(), nullptr, 0, nullptr, nullptr);
+    std::string result(static_cast<std::size_t>(std::max(bytes, 0)), '\0');
+    WideCharToMultiByte(CP_UTF8, 0, text, text.GetLength(), result.data(), bytes, nullptr, nullptr);
+    return result;
+}
+
+std::string fact(std::string label, const CString& text)
+{
+    label += '\t';
+    label += utf8(text);
+    return label;
+}
+
+std::string sizeFact(const char* label, float least, float most)
+{
+    return fact(label, CVQUnit::GetDeciPointedString(double{most} - least, true, VQ_UNIT_LENGTH, true, true, true, -1));
+}
+
+/// A number as those of the axis, with one more decimal.
+CString meanText(double mean, const Ticks& ticks, eVQUnit unit)
+{
+    Ticks finer = ticks;
+    ++finer.decimals;
+    return tickText(mean, finer) + (ticks.exponent == 0 ? unitText(unit) : CString());
+}
+
+} // namespace
+
+std::vector<std::string> factsOf(const Model& model, std::size_t selectedCount)
+{
+    std::vector<std::string> facts;
+    const auto count = [&facts](const char* label, std::size_t number) {
+        facts.push_back(fact(label, countText(number)));
+    };
+    count("Points", model.positions.size());
+    if (!model.isCloud()) {
+        count("Triangles", model.triangles.size());
+        count("Edges", model.edges.size());
+    }
+    count("Selected", selectedCount);
+    if (model.bounds.isEmpty())
+        return facts;
+    facts.push_back(sizeFact("Width (x)", model.bounds.least.x, model.bounds.most.x));
+    facts.push_back(sizeFact("Height (y)", model.bounds.least.y, model.bounds.most.y));
+    facts.push_back(sizeFact("Depth (z)", model.bounds.least.z, model.bounds.most.z));
+    return facts;
+}
+
+CString tickText(double value, const Ticks& ticks)
+{
+    return CVQUnit::GetDeciPointedString(value / std::pow(10.0, ticks.exponent), false, VQ_UNIT_END, true, false, true,
+                                         ticks.decimals);
+}
+
+ReportTexts reportTexts(const ReportContent& content, const Statistics& statistics, std::size_t selectedCount,
+                        float scale)
+{
+    const COLORREF factColour = CVQDrawProperty::GetReportColor(DPC_REPORT_TEXT_COLOR).GetCOLORREF();
+    const COLORREF axisColour = CVQDrawProperty::GetVQColor(DPC_COLORBAR_TEXT).GetCOLORREF();
+    ReportTexts texts{styleOf(DPF_WIDGET_FONT, scale),
+                      styleOf(DPF_UI_CTRL_FONT, scale),
+                      styleOf(DPF_COLORBAR_FONT, scale),
+                      styleOf(DPF_COLORBAR_FONT, scale),
+                      wide(content.title),
+                      {},
+                      {},
+                      {}};
+    texts.factStyle.colour = factColour;
+    texts.headingStyle.colour = axisColour;
+    texts.headingStyle.font.lfWeight = FW_BOLD;
+    texts.axisStyle.colour = axisColour;
+    for (const std::string& line : content.lines)
+        texts.facts.push_back(factOf(line));
+    constexpr int kTicks = 6; // as many as tell how long numbers are
+    const Ticks ticks = ticksOf(statistics.least, statistics.most, kTicks);
+    texts.heading = headingOf(content, ticks.exponent);
+    texts.legend = {{L"All", countText(statistics.count)},
+                    {L"Selected", countText(selectedCount)},
+                    {L"Mean", meanText(statistics.mean, ticks, content.unit)}};
+    return texts;
+}
+
+} // namespace vqview
