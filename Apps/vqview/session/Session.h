@@ -110,6 +110,8 @@ public:
     bool isOrthographic() const;
     void setOrthographic(bool orthographic);
     void lookAlong(Side side);
+    /// Matrices and viewport with which the scene is drawn.
+    SVQGLVariables variables() const;
     /// @}
 
     /// @name Files. Each answers whether it worked, and says so in a notice.
