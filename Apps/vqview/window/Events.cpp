@@ -3,6 +3,7 @@
 
 #include "vqview/session/Session.h"
 #include "vqview/window/Keys.h"
+#include "vqview/window/Popups.h"
 #include "vqview/window/Text.h"
 
 #include <imgui.h>
@@ -25,11 +26,6 @@ constexpr std::array<MouseButton, 3> kButtons{{
     {GLFW_MOUSE_BUTTON_MIDDLE, Button::Middle},
     {GLFW_MOUSE_BUTTON_RIGHT, Button::Right},
 }};
-
-bool isPopupOpen()
-{
-    return ImGui::IsPopupOpen(nullptr, ImGuiPopupFlags_AnyPopupId | ImGuiPopupFlags_AnyPopupLevel);
-}
 
 } // namespace
 
@@ -62,13 +58,6 @@ bool Events::take()
     return std::exchange(m_happened, false);
 }
 
-CPoint Events::mouse() const
-{
-    double x = 0, y = 0;
-    glfwGetCursorPos(m_window, &x, &y);
-    return m_layout.toView(x, y);
-}
-
 /// The modifiers that come with an event are those before it.
 Modifiers Events::held() const
 {
@@ -89,7 +78,7 @@ void Events::mouseButton(int number, int action, int)
     if (known == kButtons.end())
         return;
     const auto index = static_cast<std::size_t>(known - kButtons.begin());
-    const CPoint at = mouse();
+    const CPoint at = m_layout.toView(m_mouseX, m_mouseY);
     if (action == GLFW_PRESS && isForView(at)) {
         m_pressed.set(index);
         m_session.press(known->button, at, held());
@@ -101,6 +90,8 @@ void Events::mouseButton(int number, int action, int)
 
 void Events::cursor(double x, double y)
 {
+    m_mouseX = x;
+    m_mouseY = y;
     const CPoint at = m_layout.toView(x, y);
     if (m_pressed.any() || (isForView(at) && !ImGui::GetIO().WantCaptureMouse))
         m_session.move(at, held());
@@ -108,7 +99,7 @@ void Events::cursor(double x, double y)
 
 void Events::scroll(double, double y)
 {
-    if (const CPoint at = mouse(); isForView(at))
+    if (const CPoint at = m_layout.toView(m_mouseX, m_mouseY); isForView(at))
         m_session.wheel(y, at);
 }
 
@@ -118,7 +109,7 @@ void Events::key(int key, int scanCode, int action, int)
         m_held = now;
         m_session.hold(now);
     }
-    if (action == GLFW_RELEASE || ImGui::GetIO().WantCaptureKeyboard)
+    if (action != GLFW_PRESS || ImGui::GetIO().WantCaptureKeyboard || isPopupOpen())
         return;
     if (const auto known = keyOf(key, scanCode))
         m_session.key(*known, m_held);

@@ -37,7 +37,6 @@ private:
     void resized(int, int);
     void rescaled(float, float);
 
-    CPoint mouse() const;
     Modifiers held() const;
     bool isForView(CPoint at) const;
 
@@ -46,6 +45,7 @@ private:
     Session& m_session;
     std::bitset<3> m_pressed; ///< buttons that went down in the view
     Modifiers m_held;
+    double m_mouseX = 0, m_mouseY = 0; ///< where it was at the event; GLFW tells where it is by now
     bool m_happened = true;
 };
 

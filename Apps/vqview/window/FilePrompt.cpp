@@ -3,6 +3,7 @@
 
 #include "vqview/session/Session.h"
 #include "vqview/window/Completion.h"
+#include "vqview/window/Popups.h"
 #include "vqview/window/Text.h"
 
 #include <imgui.h>
@@ -125,6 +126,7 @@ void FilePrompt::draw(Session& session)
     ImGui::SetNextWindowPos({display.x / 2, display.y / 4}, ImGuiCond_Always, {0.5f, 0});
     if (!ImGui::BeginPopup(kPopup))
         return;
+    closeByEscape();
     ImGui::TextUnformatted(taskOf(m_task).title);
     if (isNew)
         ImGui::SetKeyboardFocusHere();

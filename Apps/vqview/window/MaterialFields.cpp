@@ -48,7 +48,7 @@ constexpr std::array<MaterialField, 5> kFields{{
     {"Ambient", {Kind::Colour}, colour<&CVQMaterial::m_fAmbient>, setColour<&CVQMaterial::m_fAmbient>},
     {"Diffuse", {Kind::Colour}, colour<&CVQMaterial::m_fDiffuse>, setColour<&CVQMaterial::m_fDiffuse>},
     {"Specular", {Kind::Colour}, colour<&CVQMaterial::m_fSpecular>, setColour<&CVQMaterial::m_fSpecular>},
-    {"Shininess", {Kind::Number, kLargestShininess}, shininess, setShininess},
+    {"Shininess", {Kind::Number, kLargestShininess, 1}, shininess, setShininess},
     {"Alpha", {Kind::Number, 1}, alpha, setAlpha},
 }};
 

@@ -96,6 +96,7 @@ bool MaterialPanel::drawPalette(FilePrompt& prompt)
 {
     if (m_paletteRow >= paletteSize())
         m_paletteRow = -1;
+    ImGui::AlignTextToFramePadding();
     ImGui::TextDisabled("Palette");
     ImGui::SameLine();
     if (ImGui::Button("Load..."))

@@ -60,10 +60,13 @@ void drawFiles(Session& session, FilePrompt& prompt)
 bool drawTables(const Tab& tab, const std::string& search)
 {
     bool isChanged = false;
+    const float top = ImGui::GetCursorPosY();
     for (const TableOf which : tab.tables) {
         if (which != TableOf::End)
             isChanged |= drawTable(table(which), search);
     }
+    if (ImGui::GetCursorPosY() == top)
+        ImGui::TextDisabled("No name has that in it");
     return isChanged;
 }
 

@@ -13,18 +13,24 @@ namespace {
 
 constexpr ImGuiColorEditFlags kSwatch = ImGuiColorEditFlags_NoInputs | ImGuiColorEditFlags_AlphaPreviewHalf |
                                         ImGuiColorEditFlags_AlphaBar | ImGuiColorEditFlags_PickerHueWheel;
-constexpr float kNumberWidth = 5.5f; // in heights of the text
+constexpr float kNumberWidth = 4.5f; // in heights of the text
 constexpr float kStepsAcross = 400;  // of a drag over the whole range
 constexpr float kUnboundedStep = 0.05f;
 constexpr float kDirectionStep = 20; // directions are as long as 10000
 
+constexpr std::array<const char*, 3> kFormats{"%.0f", "%.1f", "%.2f"}; // by decimals
+
 bool drawNumber(const char* name, Shape shape, Value& value)
 {
     const bool isBounded = shape.most > 0;
+    const char* format = kFormats[static_cast<std::size_t>(shape.decimals)];
     const float step = isBounded ? shape.most / kStepsAcross : kUnboundedStep;
     ImGui::SetNextItemWidth(kNumberWidth * ImGui::GetFontSize());
-    return ImGui::DragFloat(name, value.data(), step, 0, isBounded ? shape.most : FLT_MAX, "%.2f",
-                            ImGuiSliderFlags_AlwaysClamp);
+    const bool isChanged = ImGui::DragFloat(name, value.data(), step, 0, isBounded ? shape.most : FLT_MAX, format,
+                                            ImGuiSliderFlags_AlwaysClamp);
+    if (ImGui::IsItemHovered() && !ImGui::IsItemActive())
+        ImGui::SetTooltip("%s", name); // the panel may be too narrow for it
+    return isChanged;
 }
 
 /// Its name is as long as the others, and four numbers need the line.

@@ -49,7 +49,7 @@ Shape sceneShape(int row)
     if (isDirection(row))
         return {Kind::Direction};
     if (row == DPC_TEXTUREMAT_SHININESS)
-        return {Kind::Number, kLargestShininess};
+        return {Kind::Number, kLargestShininess, 1};
     return {Kind::ColourAndAlpha};
 }
 
@@ -108,7 +108,7 @@ std::string alphaName(int row)
 
 Shape alphaShape(int)
 {
-    return {Kind::Number, kLargestByte};
+    return {Kind::Number, kLargestByte, 0};
 }
 
 Value alpha(int row)
@@ -161,12 +161,13 @@ void setHistogramColour(int row, const Value& value)
 }
 
 constexpr std::array<Table, static_cast<std::size_t>(TableOf::End)> kTables{{
-    {"Scene", DPC_END, nameOf<&Store::GetDPCEnumNoToEnumString>, sceneShape, sceneColour, setSceneColour},
-    {"Sizes", DPS_END, nameOf<&Store::GetDPSEnumNoToEnumString>, always<Kind::Number>, size, setSize},
-    {"Controls", DPC_UI_COLOR_END, nameOf<&Store::GetUICtrlDPCEnumNoToEnumString>, always<Kind::Colour>, controlColour,
+    {"Colours and lights", DPC_END, nameOf<&Store::GetDPCEnumNoToEnumString>, sceneShape, sceneColour, setSceneColour},
+    {"Pixels, degrees and ratios", DPS_END, nameOf<&Store::GetDPSEnumNoToEnumString>, always<Kind::Number>, size,
+     setSize},
+    {"Colours", DPC_UI_COLOR_END, nameOf<&Store::GetUICtrlDPCEnumNoToEnumString>, always<Kind::Colour>, controlColour,
      setControlColour},
     {"How opaque", kAlphas, alphaName, alphaShape, alpha, setAlpha},
-    {"Report", DPC_REPORT_COLOR_END, nameOf<&Store::GetReportDPCEnumNoToEnumString>, always<Kind::Colour>, reportColour,
+    {"Tables", DPC_REPORT_COLOR_END, nameOf<&Store::GetReportDPCEnumNoToEnumString>, always<Kind::Colour>, reportColour,
      setReportColour},
     {"Histogram", DPC_HIST_COLOR_END, histogramName, always<Kind::Colour>, histogramColour, setHistogramColour},
 }};

@@ -21,7 +21,8 @@ enum class Kind {
 struct Shape
 {
     Kind kind = Kind::Colour;
-    float most = 0; ///< the largest number; 0: there is none
+    float most = 0;   ///< the largest number; 0: there is none
+    int decimals = 2; ///< of numbers, 0 .. 2
 };
 
 /// A table of preferences as the panel shows it, row by row, from 0 on.

@@ -3,6 +3,7 @@
 
 #include "vqview/session/Session.h"
 #include "vqview/window/FilePrompt.h"
+#include "vqview/window/Popups.h"
 #include "vqview/window/Style.h"
 
 #include <imgui.h>
@@ -157,6 +158,7 @@ void drawSelection(Flow& flow, Session& session)
     if (flow.button("Select", "Select all, nothing, or the rest"))
         ImGui::OpenPopup("select");
     if (ImGui::BeginPopup("select")) {
+        closeByEscape();
         if (ImGui::MenuItem("All"))
             session.selectAll();
         if (ImGui::MenuItem("Nothing"))
@@ -192,6 +194,7 @@ void drawView(Flow& flow, Session& session)
     if (flow.button("View", "What is shown, and from where"))
         ImGui::OpenPopup("view");
     if (ImGui::BeginPopup("view")) {
+        closeByEscape();
         drawViewMenu(session);
         ImGui::EndPopup();
     }

@@ -22,7 +22,7 @@ namespace vqview {
 
 namespace {
 
-constexpr float kPanelWidth = 400;      // in 1/96 inch
+constexpr float kPanelWidth = 420;      // in 1/96 inch
 constexpr float kLargestPanel = 0.6f;   // of the window's width
 constexpr int kFramesAfterEvent = 3;    // Dear ImGui lays out in one what it learnt in the one before
 constexpr double kIdleSeconds = 0.25;   // notices go, and what threads have finished is taken over
