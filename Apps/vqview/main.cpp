@@ -25,5 +25,6 @@ int main(int argc, char** argv)
     if (!line.offScreenFolder.empty())
         return vqview::runOffScreen({line.model, line.script, line.offScreenFolder, line.width, line.height});
     CVQDrawProperty::ReadPreferenceFromFile();
-    return vqview::showWindow({line.model, line.script, line.width, line.height, line.echoes});
+    vqview::Session session;
+    return vqview::showWindow(session, {line.width, line.height, line.model, line.echoes});
 }

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 // What a session draws.
-#include "vqview/overlay/ColourRamp.h"
 #include "vqview/overlay/Labels.h"
 #include "vqview/overlay/Markers.h"
 #include "vqview/overlay/Notices.h"
+#include "vqview/overlay/VertexColours.h"
 #include "vqview/overlay/ViewImage.h"
 #include "vqview/session/State.h"
+
+#include <cmath>
 
 namespace vqview {
 
@@ -59,7 +61,7 @@ void Session::State::drawScene()
         std::vector<CVQColor> colours;
         if (areColoursShown && model)
             coloursOf(knownValues(), colours);
-        scene->setColours(colours);
+        scene->setColours(std::move(colours));
     }
     scene->draw(camera.variables(), shown.faces, shown.edges, shown.vertices, scale);
 }
@@ -141,7 +143,7 @@ void Session::draw()
     drawNotice(image, m_state->notice, m_state->scale);
     if (m_state->shown.keys)
         drawKeys(image, m_state->scale);
-    drawOver(image, view());
+    drawOver(image, variables());
     m_state->wantsFrame = false;
 }
 
@@ -153,8 +155,8 @@ void Session::drawTo(CVQDIB& image)
     CVQDIB overlay(width(), height());
     overlay.EnableAntialias(true);
     m_state->drawOverlay(overlay, m_state->shown.report, false);
-    drawOver(overlay, view());
-    copyFrame(image, view());
+    drawOver(overlay, variables());
+    copyFrame(image, variables());
     m_state->wantsFrame = true;
 }
 
@@ -162,7 +164,7 @@ void Session::drawReportTo(CVQDIB& image)
 {
     m_state->drawScene();
     m_state->drawMarks();
-    copyFrame(image, view());
+    copyFrame(image, variables());
     image.EnableAntialias(true);
     m_state->drawOverlay(image, true, true);
     m_state->wantsFrame = true;

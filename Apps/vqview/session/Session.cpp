@@ -65,7 +65,7 @@ void Session::setSize(int width, int height, float scale)
 
 int Session::width() const { return m_state->width; }
 int Session::height() const { return m_state->height; }
-SVQGLVariables Session::view() const { return m_state->camera.variables(); }
+SVQGLVariables Session::variables() const { return m_state->camera.variables(); }
 bool Session::wantsFrame() const { return m_state->wantsFrame || m_state->loader.isLoading(); }
 
 void Session::poll()

@@ -56,8 +56,6 @@ public:
     /// The report: the same with colour bar, histogram and title, whether they are shown or not, and with the shape
     /// that is being drawn.
     void drawReportTo(CVQDIB& image);
-    /// How the scan is looked at.
-    SVQGLVariables view() const;
     /// Lets go of what lives in the current context; the next frame makes it anew.
     void releaseGraphics();
     /// Whether anything has changed since the last frame, or goes on by itself.
@@ -130,6 +128,8 @@ public:
     /// What colours the points and is counted in the histogram.
     VertexValue value() const;
     void setValue(VertexValue value);
+    /// Matrices and viewport with which the scene is drawn.
+    SVQGLVariables variables() const;
     /// @}
 
     /// @name Files. Each answers whether it worked, and says so in a notice.

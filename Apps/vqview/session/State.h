@@ -36,6 +36,7 @@ struct Session::State
     Camera camera;
     std::optional<SceneDrawing> scene; // lives in a context
     bool isSceneOfModel = false;
+    bool areColoursShown = false;
     std::uint64_t sceneSelection = 0; // the version that the scene shows
     std::vector<float> depth;
     bool isDepthKnown = false; // of the scene as it is looked at

@@ -37,6 +37,8 @@ public:
     void zoom(double steps, double x, double y, const Point3& under);
     /// From that side, at the present target. From above and from below the right side stays on the right.
     void lookAlong(Side side);
+    /// From the other side of the target.
+    void lookFromOpposite();
 
     bool isOrthographic() const { return m_isOrthographic; }
     /// What is at the target's depth keeps its size.

@@ -38,15 +38,20 @@ void emitPoints(const Model& model)
     glDrawArrays(GL_POINTS, 0, static_cast<GLsizei>(model.positions.size()));
 }
 
-void emitSurface(const Model& model)
+void emitSurface(const Model& model, const std::vector<CVQColor>& colours)
 {
     if (hasNormals(model))
         useNormals(model);
+    if (colours.size() == model.positions.size()) {
+        glEnableClientState(GL_COLOR_ARRAY);
+        glColorPointer(4, GL_UNSIGNED_BYTE, 0, colours.data());
+    }
     if (model.isCloud())
         emitPoints(model);
     else
         emit(GL_TRIANGLES, model.triangles);
     glDisableClientState(GL_NORMAL_ARRAY);
+    glDisableClientState(GL_COLOR_ARRAY);
 }
 
 } // namespace
@@ -61,11 +66,18 @@ void SceneDrawing::setModel(std::shared_ptr<const Model> model)
     dropParts();
     m_model = std::move(model);
     m_selected.clear();
+    m_colours.clear();
 }
 
 void SceneDrawing::setSelected(const std::vector<std::uint32_t>& indices)
 {
     m_selected = indices;
+}
+
+void SceneDrawing::setColours(std::vector<CVQColor> colours)
+{
+    dropParts();
+    m_colours = std::move(colours);
 }
 
 void SceneDrawing::draw(const SVQGLVariables& view, bool faces, bool edges, bool vertices, float scale)
@@ -99,8 +111,13 @@ void SceneDrawing::drawSurface(float scale)
         useLights();
     else
         useColour(DPC_PROBEPOINT);
+    if (m_colours.size() == m_model->positions.size()) {
+        glColorMaterial(GL_FRONT_AND_BACK, GL_AMBIENT_AND_DIFFUSE);
+        glEnable(GL_COLOR_MATERIAL);
+    }
     glPointSize(pixels(DPS_VERTEX, scale));
     drawPart(Part::Surface);
+    glDisable(GL_COLOR_MATERIAL);
 }
 
 void SceneDrawing::drawEdges(const SVQGLVariables& view, float scale)
@@ -142,7 +159,7 @@ void SceneDrawing::drawPart(Part part)
         glNewList(list, GL_COMPILE);
         switch (part) {
         case Part::Surface:
-            emitSurface(*m_model);
+            emitSurface(*m_model, m_colours);
             break;
         case Part::Edges:
             emit(GL_LINES, m_model->edges);

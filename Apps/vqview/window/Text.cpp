@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#include "vqview/window/Text.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace vqview {
+
+namespace {
+
+template <typename Text>
+int lengthOf(const Text& text)
+{
+    return static_cast<int>(std::min<std::size_t>(text.size(), std::numeric_limits<int>::max() / 8));
+}
+
+} // namespace
+
+std::string utf8Of(std::wstring_view text)
+{
+    const int length = lengthOf(text);
+    const int bytes =
+        length == 0 ? 0 : WideCharToMultiByte(CP_UTF8, 0, text.data(), length, nullptr, 0, nullptr, nullptr);
+    std::string result(static_cast<std::size_t>(bytes), '\0');
+    if (bytes != 0)
+        WideCharToMultiByte(CP_UTF8, 0, text.data(), length, result.data(), bytes, nullptr, nullptr);
+    return result;
+}
+
+std::wstring wideOf(std::string_view utf8)
+{
+    const int length = lengthOf(utf8);
+    const int characters = length == 0 ? 0 : MultiByteToWideChar(CP_UTF8, 0, utf8.data(), length, nullptr, 0);
+    std::wstring result(static_cast<std::size_t>(characters), L'\0');
+    if (characters != 0)
+        MultiByteToWideChar(CP_UTF8, 0, utf8.data(), length, result.data(), characters);
+    return result;
+}
+
+std::string utf8Of(const std::filesystem::path& path)
+{
+    const std::u8string text = path.u8string();
+    return {text.begin(), text.end()};
+}
+
+std::filesystem::path pathOf(std::string_view utf8)
+{
+    return std::u8string(utf8.begin(), utf8.end());
+}
+
+CString textOf(const std::filesystem::path& path)
+{
+    return wideOf(utf8Of(path)).c_str();
+}
+
+} // namespace vqview
