@@ -101,7 +101,7 @@ std::string read(CVQArchive& archive, Document& document)
     if (!readText(archive, document.scan))
         return "is damaged";
     readPreferences(&archive);
-    document.report.ReadFile(&archive); // a document may have none
+    document.report.ReadFile(&archive);
     document.texture.ReadFile(&archive);
     document.selection.Read(&archive);
     return {};

@@ -17,7 +17,7 @@ namespace vqview {
 struct Document
 {
     std::string scan;   ///< UTF-8; empty when none was shown
-    CVQDIB report;      ///< empty when there is none
+    CVQDIB report{1, 1};
     CVQTexture texture{4, 4};
     CVQSelectionSet selection;
 };

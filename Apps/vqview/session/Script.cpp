@@ -17,6 +17,11 @@ namespace {
 
 using Words = std::vector<std::string_view>;
 
+std::string quoted(std::string_view word)
+{
+    return std::string(1, '\'').append(word).append(1, '\'');
+}
+
 /// A line that has been taken apart, while it is carried out. A reader that fails says so in `fault`.
 class Line
 {
@@ -59,13 +64,17 @@ public:
         for (const Row& row : rows)
             if (row.name == name)
                 return row.value;
-        fail("there is no '" + std::string(name) + "'");
+        fail("there is no " + quoted(name));
         return rows[0].value;
     }
     /// From the present word to the end of the line.
     std::string rest() const
     {
-        return left() == 0 ? std::string() : std::string(m_words[m_next].data(), m_text.data() + m_text.size());
+        if (left() == 0)
+            return {};
+        const auto begin = static_cast<std::size_t>(m_words[m_next].data() - m_text.data());
+        const auto end = static_cast<std::size_t>(m_words.back().data() - m_text.data()) + m_words.back().size();
+        return std::string(m_text.substr(begin, end - begin));
     }
 
 private:
@@ -84,7 +93,7 @@ private:
         double number = 0;
         const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
         if (error != std::errc() || end != digits.data() + digits.size() || !(std::abs(number) <= kLargest))
-            fail("'" + std::string(word) + "' is no number");
+            fail(quoted(word) + " is no number");
         return isPart ? number / 100 * *whole : number;
     }
 
@@ -256,7 +265,7 @@ void key(Line& line)
         if (row.name == name)
             key = row.value;
     if (key == Key{})
-        return line.fail("there is no key '" + std::string(name) + "'");
+        return line.fail("there is no key " + quoted(name));
     line.session().key(key, line.held());
 }
 
@@ -295,7 +304,7 @@ void colour(Line& line)
     for (std::size_t channel = 0; channel < given; ++channel)
         rgba[channel] = static_cast<float>(line.number());
     if (index < 0)
-        line.fail("there is no colour '" + std::string(name) + "'");
+        line.fail("there is no colour " + quoted(name));
     if (!line.fault().empty())
         return;
     CVQDrawProperty::SetColorARGB(static_cast<eDrawPropertyColor>(index), rgba.data());
@@ -308,7 +317,7 @@ void length(Line& line)
     const int index = CVQDrawProperty::GetDPSEnumStringToEnumNo(wide(name));
     const double value = line.number();
     if (index < 0)
-        line.fail("there is no size '" + std::string(name) + "'");
+        line.fail("there is no size " + quoted(name));
     if (!line.fault().empty())
         return;
     CVQDrawProperty::SetSize(static_cast<eDrawPropertySize>(index), static_cast<float>(value));
@@ -396,7 +405,7 @@ bool runLine(std::string_view text, ScriptStage& stage, std::string& fault)
         fault = line.fault();
         return fault.empty() || !command.failureEndsScript;
     }
-    fault = "there is no command '" + std::string(name) + "'";
+    fault = "there is no command " + quoted(name);
     return false;
 }
 

@@ -152,6 +152,12 @@ void Camera::lookAlong(Side side)
     m_pitch = from.pitch;
 }
 
+void Camera::lookFromOpposite()
+{
+    m_yaw = std::remainder(m_yaw + std::numbers::pi, 2 * std::numbers::pi);
+    m_pitch = -m_pitch;
+}
+
 SVQGLVariables Camera::variables() const
 {
     SVQGLVariables view{{}, {}, {0, 0, m_width, m_height}};
