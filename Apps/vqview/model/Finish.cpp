@@ -54,6 +54,8 @@ FinishedModel finish(RawMesh&& mesh, std::string title, Progress& progress)
         throw std::length_error("more points than indices");
     auto model = std::make_shared<Model>();
     FinishedModel finished;
+    if (!progress.report(0, kSteps))
+        return finished;
     {
         const JoinedCorners joined = joinCorners(mesh.positions);
         finished.droppedPoints = static_cast<std::size_t>(std::ranges::count(joined.place, kNoIndex));

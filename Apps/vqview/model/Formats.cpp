@@ -27,22 +27,17 @@ constexpr std::array<std::pair<std::string_view, ScanFormat>, 10> kExtensions{{
 
 constexpr std::size_t kSampleSize = 1 << 16;
 
-/// Of these, one line proves nothing: a table of numbers, a letter before three of them.
-std::optional<ScanFormat> formatOfLines(std::string_view sample)
+bool hasObjVertices(std::string_view text)
 {
     Progress unwatched;
-    Lines lines(sample, unwatched);
-    std::size_t corners = 0, points = 0;
+    Lines lines(text, unwatched);
     for (std::string_view line; lines.next(line);) {
         float x = 0, y = 0, z = 0;
-        const bool isVertex = line.starts_with("v ") && Words(line.substr(2)).numbers(x, y, z);
-        const bool isPoint = Words(line, line.find(';') == std::string_view::npos ? ',' : ';').numbers(x, y, z);
-        corners += isVertex ? 1 : 0;
-        points += isPoint ? 1 : 0;
+        Words words(line);
+        if (words.next() == "v" && words.numbers(x, y, z))
+            return true;
     }
-    if (corners > 0 && corners >= points)
-        return ScanFormat::Obj;
-    return 2 * points > lines.number() ? std::optional(ScanFormat::Xyz) : std::nullopt;
+    return false;
 }
 
 bool isBinaryStl(std::string_view bytes)
@@ -93,7 +88,9 @@ std::optional<ScanFormat> formatOfContent(std::string_view bytes)
         return ScanFormat::Stl;
     if (word.ends_with("OFF") && word.size() <= 8)
         return ScanFormat::Off;
-    return formatOfLines(sample);
+    if (isMostlyXyz(sample))
+        return ScanFormat::Xyz;
+    return hasObjVertices(sample) ? std::optional(ScanFormat::Obj) : std::nullopt;
 }
 
 } // namespace vqview

@@ -106,14 +106,12 @@ ReadOutcome readTitled(const fs::path& path, const std::string& title, Progress&
         if (!progress.isCancelled())
             made = attempt(path, file.view(), progress);
     }
-    progress.stage(kMeshRead, 1);
-    FinishedModel finished;
-    if (made.hasWorked() && !progress.isCancelled())
-        finished = finish(std::move(made.mesh), title, progress);
-    if (progress.isCancelled())
-        return failed(title, "was not read: it was cancelled");
-    if (!made.hasWorked())
+    if (!progress.isCancelled() && !made.hasWorked())
         return failed(title, made.failure);
+    progress.stage(kMeshRead, 1);
+    const FinishedModel finished = finish(std::move(made.mesh), title, progress);
+    if (!finished.model)
+        return failed(title, "was not read: it was cancelled");
     if (finished.model->positions.empty())
         return failed(title, "holds no points with a finite place");
     return {finished.model, remark(title, finished)};

@@ -60,13 +60,14 @@ private:
     bool m_areNormals = true;
 };
 
-/// Spreadsheets of countries with a decimal comma part columns by semicolons.
-std::string_view withDecimalPoints(std::string_view line, std::string& changed)
+/// The words of a line; commas are decimal points where semicolons part, as spreadsheets of many countries write it.
+Words wordsOf(std::string_view line, std::string& changed)
 {
+    if (line.find(';') == std::string_view::npos)
+        return Words(line, ',');
     changed = line;
     std::ranges::replace(changed, ',', '.');
-    std::ranges::replace(changed, ';', ' ');
-    return changed;
+    return Words(changed, ';');
 }
 
 } // namespace
@@ -80,9 +81,7 @@ std::string readXyz(std::string_view text, RawMesh& mesh, Progress& progress)
     for (std::string_view line; lines.next(line);) {
         if (isRemark(line))
             continue;
-        if (line.find(';') != std::string_view::npos)
-            line = withDecimalPoints(line, changed);
-        Words words(line, ',');
+        Words words = wordsOf(line, changed);
         Point3 point;
         if (words.numbers(point.x, point.y, point.z)) {
             mesh.positions.push_back(point);
@@ -93,6 +92,19 @@ std::string readXyz(std::string_view text, RawMesh& mesh, Progress& progress)
     }
     normals.finish();
     return {};
+}
+
+bool isMostlyXyz(std::string_view text)
+{
+    Progress unwatched;
+    Lines lines(text, unwatched);
+    std::string changed;
+    std::size_t points = 0;
+    for (std::string_view line; lines.next(line);) {
+        Point3 point;
+        points += wordsOf(line, changed).numbers(point.x, point.y, point.z) ? 1 : 0;
+    }
+    return 2 * points > lines.number();
 }
 
 } // namespace vqview

@@ -21,6 +21,9 @@ std::string readObj(std::string_view text, RawMesh& mesh, Progress& progress);
 /// there are semicolons, a comma is a decimal point. Lines before the first point that are none are headings.
 std::string readXyz(std::string_view text, RawMesh& mesh, Progress& progress);
 
+/// Whether more than half of the lines are points.
+bool isMostlyXyz(std::string_view text);
+
 /// Polygon file format: text and both binary forms, properties of any type, faces as fans, triangle strips.
 std::string readPly(std::string_view bytes, RawMesh& mesh, Progress& progress);
 
