@@ -3,6 +3,7 @@
 
 #include "support/Gallery.h"
 #include "support/offscreen/OffScreenContext.h"
+#include "vqview/overlay/ViewImage.h"
 #include "vqview/session/Script.h"
 #include "vqview/session/Session.h"
 #include "vqview/session/Text.h"
@@ -73,10 +74,12 @@ std::string showScan(Session& session, const std::filesystem::path& file)
 bool keepPicture(Session& session, Gallery& gallery, const std::string& name, const std::string& caption, bool isReport)
 {
     CVQDIB picture(session.width(), session.height());
-    if (isReport)
+    if (isReport) {
         session.drawReportTo(picture);
-    else
-        session.drawTo(picture);
+    } else {
+        session.draw();
+        copyFrame(picture, session.variables());
+    }
     return gallery.add(picture, name, caption);
 }
 

@@ -38,7 +38,8 @@ public:
     }
 };
 
-constexpr float kMarkerPixels = 5; // radius of a sphere at a picked point, units
+constexpr float kMarkerPixels = 6;  // radius of a sphere at a picked point, units
+constexpr float kDiskInSpheres = 3; // how much larger the disk along the surface is
 
 } // namespace
 
@@ -89,10 +90,13 @@ void Session::State::drawMarks()
         return;
     std::vector<Marker> markers;
     addMeasureMarkers(pickedPoints(), markers);
-    if (model->normals.size() == model->positions.size())
-        markers.push_back({MarkerKind::Disk, model->positions[picked.back()], model->normals[picked.back()], {},
-                           DPM_REGION_PLANE});
-    drawMarkers(markers, view, markerRadius(), scale);
+    const float radius = markerRadius();
+    drawMarkers(markers, view, radius, scale);
+    if (model->normals.size() != model->positions.size())
+        return;
+    const Marker disk{MarkerKind::Disk, model->positions[picked.back()], model->normals[picked.back()], {},
+                      DPM_REGION_PLANE};
+    drawMarkers({&disk, 1}, view, radius * kDiskInSpheres, scale);
 }
 
 void Session::State::drawShape()
@@ -101,7 +105,10 @@ void Session::State::drawShape()
         return;
     const PixelMatrices matrices(width, height);
     SVQGLVariables view = camera.variables();
+    glPushAttrib(GL_COLOR_BUFFER_BIT);
+    glBlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA); // shapes blend as their host does
     CVQDrawingAPI::DrawDrag(view);
+    glPopAttrib();
 }
 
 ReportContent Session::State::reportContent()

@@ -260,7 +260,9 @@ void wheel(Line& line)
 void key(Line& line)
 {
     const std::string_view name = line.left() > 0 ? line.word() : std::string_view();
-    Key key = name.size() == 1 ? Key(name[0]) : Key{};
+    Key key{};
+    if (name.size() == 1)
+        key = Key(name[0] >= 'a' && name[0] <= 'z' ? name[0] - 'a' + 'A' : name[0]);
     for (const Named<Key>& row : kKeys)
         if (row.name == name)
             key = row.value;
