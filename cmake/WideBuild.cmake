@@ -4,9 +4,11 @@
 set(VQDRAW_WIDE x86-64-v3)
 set(VQDRAW_WIDE_FOLDER lib/glibc-hwcaps/${VQDRAW_WIDE})
 
+option(VQDRAW_FOR_AVX2 "Build the library for processors with AVX2 as well" ON)
+
 # Sanitizers look at the one source; one build of it is enough for them.
 set(VQDRAW_WIDE_BUILD OFF)
-if(CMAKE_SYSTEM_NAME STREQUAL "Linux" AND CMAKE_SYSTEM_PROCESSOR STREQUAL "x86_64" AND NOT VQDRAW_SANITIZER)
+if(VQDRAW_FOR_AVX2 AND CMAKE_SYSTEM_NAME STREQUAL "Linux" AND CMAKE_SYSTEM_PROCESSOR STREQUAL "x86_64" AND NOT VQDRAW_SANITIZER)
     set(VQDRAW_WIDE_BUILD ON)
 endif()
 

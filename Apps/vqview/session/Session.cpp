@@ -50,7 +50,11 @@ const char* effectOf(EVQSelectionMode mode)
 
 } // namespace
 
-Session::Session() : m_state(std::make_unique<State>()) {}
+Session::Session() : m_state(std::make_unique<State>())
+{
+    CVQDrawingAPI::UpdateSelectionColor();
+}
+
 Session::~Session() = default;
 
 void Session::setSize(int width, int height, float scale)
@@ -239,7 +243,12 @@ std::string Session::statusLine() const
 
 std::string Session::notice() const { return m_state->notice; }
 void Session::say(const std::string& notice) { m_state->say(notice); }
-void Session::preferencesChanged() { m_state->lookedElsewhere(); }
+
+void Session::preferencesChanged()
+{
+    CVQDrawingAPI::UpdateSelectionColor();
+    m_state->lookedElsewhere();
+}
 
 bool Session::savePicture(const std::filesystem::path& path)
 {
