@@ -37,10 +37,10 @@ class PolygonLookup
 {
 public:
     PolygonLookup(const std::vector<double>& vertices, const int (&viewport)[4], bool alsoOutside)
-        : m_sides(vq::sidesOf(vertices)), m_view(m_sides, areaOf(viewport))
+        : m_sides(vq::sidesOf(vertices)), m_view(m_sides, areaOf(viewport), kPixel)
     {
         if (alsoOutside && reachesBeyond(areaOf(viewport)))
-            m_beyond.emplace(m_sides, vq::Area{-kEverything, -kEverything, kEverything, kEverything});
+            m_beyond.emplace(m_sides, vq::Area{-kEverything, -kEverything, kEverything, kEverything}, kCellBeyond);
     }
     PolygonLookup(const PolygonLookup&) = delete;
     PolygonLookup& operator=(const PolygonLookup&) = delete;
@@ -56,12 +56,14 @@ public:
         std::array<std::int32_t, vq::PointBlock::kSize> cellsBeyond;
         m_beyond->find(block.x, block.y, count, cellsBeyond.data());
         setBits(count, bits, [&](std::size_t i) {
-            return cells[i] != 0 ? m_view.isInside(cells[i], block.x[i], block.y[i])
-                                 : m_beyond->isInside(cellsBeyond[i], block.x[i], block.y[i]);
+            return m_view.isBeyond(cells[i]) ? m_beyond->isInside(cellsBeyond[i], block.x[i], block.y[i])
+                                             : m_view.isInside(cells[i], block.x[i], block.y[i]);
         });
     }
 
 private:
+    static constexpr double kPixel = 1;
+    static constexpr double kCellBeyond = 8;    // where fewer points are
     static constexpr double kEverything = 1e10; // further than any vertex
 
     static vq::Area areaOf(const int (&viewport)[4])

@@ -60,7 +60,7 @@ public:
         chooseCells(area);
         const auto columns = static_cast<std::size_t>(grid.m_columns);
         const auto rows = static_cast<std::size_t>(grid.m_rows);
-        grid.m_states.resize(1 + columns * rows);
+        grid.m_states.assign((columns + 2) * (rows + 2), OutlineGrid::kBeyond);
         grid.m_rowBegins.reserve(rows + 1);
         m_changes.resize(columns + 1);
         m_counts.resize(columns);
@@ -129,8 +129,10 @@ private:
 
     void sortByFirstRow()
     {
+        m_lastRows.reserve(m_sides.size());
         for (std::size_t i = 0; i < m_sides.size(); ++i) {
             const Range rows = rowsOf(m_sides[i]);
+            m_lastRows.push_back(rows.last);
             if (rows.first <= rows.last)
                 m_sidesOfRow[static_cast<std::size_t>(rows.first)].push_back(static_cast<std::uint32_t>(i));
         }
@@ -139,7 +141,7 @@ private:
     /// Sides that end above go, those that begin here come.
     void takeSidesOf(std::int32_t row)
     {
-        std::erase_if(m_active, [&](std::uint32_t side) { return rowsOf(m_sides[side]).last < row; });
+        std::erase_if(m_active, [&](std::uint32_t side) { return m_lastRows[side] < row; });
         const std::vector<std::uint32_t>& begun = m_sidesOfRow[static_cast<std::size_t>(row)];
         m_active.insert(m_active.end(), begun.begin(), begun.end());
     }
@@ -194,7 +196,7 @@ private:
 
     std::int32_t cellAt(std::int32_t row, std::size_t column) const
     {
-        return 1 + row * m_grid.m_columns + static_cast<std::int32_t>(column);
+        return (row + 1) * (m_grid.m_columns + 2) + static_cast<std::int32_t>(column) + 1;
     }
 
     /// Turns the counts into places of the list, and fills these.
@@ -214,39 +216,54 @@ private:
                 m_grid.m_nearSides[m_counts[static_cast<std::size_t>(column)]++] = run.side;
     }
 
-    /// From the right, where no ray crosses anything.
+    /// From the right, where no ray crosses anything. A crossing is in a near cell, so that it changes nothing further
+    /// than at the next centre on each side of one.
     void setStates(std::int32_t row)
     {
-        const double middle = middleOfRow(row);
         const std::size_t firstNear = m_grid.m_rowBegins.back();
         std::size_t nearCell = m_grid.m_nearCells.size();
         m_grid.m_nearCells.push_back({0, static_cast<std::uint32_t>(m_grid.m_nearSides.size())});
         bool inside = false;
-        for (std::int32_t column = m_grid.m_columns; column-- > 0;) {
-            const auto index = static_cast<std::size_t>(column);
-            inside ^= m_changes[index + 1] != 0;
-            const std::int32_t cell = cellAt(row, index);
-            std::uint8_t state = inside ? OutlineGrid::kInside : 0;
-            if (nearCell > firstNear && m_grid.m_nearCells[nearCell - 1].cell == cell) {
-                --nearCell;
-                const bool counted = m_grid.countSides(nearCell, column, middleOfColumn(column), middle);
-                state = static_cast<std::uint8_t>(OutlineGrid::kNearSides | (inside != counted ? 1 : 0));
-            }
-            m_grid.m_states[static_cast<std::size_t>(cell)] = state;
+        std::int32_t end = m_grid.m_columns; // from here on it is done
+        while (nearCell-- > firstNear) {
+            const std::int32_t column = m_grid.m_nearCells[nearCell].cell - cellAt(row, 0);
+            inside = setGap(row, column + 1, end, inside) != changesAt(column + 1);
+            const bool counted = m_grid.countSides(nearCell, column, middleOfColumn(column), middleOfRow(row));
+            stateAt(row, column) = OutlineGrid::kNearSides | (inside != counted ? OutlineGrid::kInside : 0);
+            end = column;
         }
+        setGap(row, 0, end, inside);
         m_grid.m_nearCells.pop_back();
+    }
+
+    /// Cells without near sides, all alike. @param inside what is right of them @return what they are
+    bool setGap(std::int32_t row, std::int32_t first, std::int32_t end, bool inside)
+    {
+        if (first == end)
+            return inside;
+        const bool gap = inside != changesAt(end);
+        std::fill_n(&stateAt(row, first), end - first, gap ? OutlineGrid::kInside : std::uint8_t{0});
+        return gap;
+    }
+
+    bool changesAt(std::int32_t centres) const { return m_changes[static_cast<std::size_t>(centres)] != 0; }
+    std::uint8_t& stateAt(std::int32_t row, std::int32_t column)
+    {
+        return m_grid.m_states[static_cast<std::size_t>(cellAt(row, static_cast<std::size_t>(column)))];
     }
 
     OutlineGrid& m_grid;
     const std::vector<Side>& m_sides;
     std::vector<std::vector<std::uint32_t>> m_sidesOfRow; // those that begin in it
+    std::vector<std::int32_t> m_lastRows;
     std::vector<std::uint32_t> m_active;
     std::vector<Run> m_runs;
     std::vector<std::uint8_t> m_changes; // at a number of centres: whether an odd number of sides is right of these
     std::vector<std::uint32_t> m_counts; // of a column: its near sides, later the place of the next
 };
 
-OutlineGrid::OutlineGrid(const std::vector<Side>& sides, const Area& area) : m_sides(sides)
+OutlineGrid::OutlineGrid(const std::vector<Side>& sides, const Area& area, double finestCell)
+    : m_sides(sides), m_cell(finestCell)
 {
     const Area common = commonArea(sides, area);
     if (common.left <= common.right && common.top <= common.bottom)
@@ -258,27 +275,29 @@ void OutlineGrid::find(const double* x, const double* y, std::size_t count, std:
     const double scale = 1 / m_cell;
     const double left = m_left;
     const double top = m_top;
-    const double columns = m_columns;
-    const double rows = m_rows;
+    const double lastColumn = m_columns + 1;
+    const double lastRow = m_rows + 1;
+    const std::int32_t stride = m_columns + 2;
     for (std::size_t i = 0; i < count; ++i) {
-        const double column = (x[i] - left) * scale;
-        const double row = (y[i] - top) * scale;
-        const bool isHere = (column >= 0) & (column < columns) & (row >= 0) & (row < rows);
-        const auto wholeColumn = static_cast<std::int32_t>(isHere ? column : 0.0);
-        const auto wholeRow = static_cast<std::int32_t>(isHere ? row : 0.0);
-        const std::int32_t cell = wholeRow * m_columns + wholeColumn + 1;
-        cells[i] = isHere ? cell : 0;
+        double column = (x[i] - left) * scale + 1;
+        double row = (y[i] - top) * scale + 1;
+        column = column > 0 ? column : 0; // also what is no number
+        row = row > 0 ? row : 0;
+        column = column < lastColumn ? column : lastColumn;
+        row = row < lastRow ? row : lastRow;
+        cells[i] = static_cast<std::int32_t>(row) * stride + static_cast<std::int32_t>(column);
     }
 }
 
 bool OutlineGrid::countNear(std::int32_t cell, double x, double y) const
 {
-    const auto row = static_cast<std::size_t>((cell - 1) / m_columns);
+    const std::int32_t stride = m_columns + 2;
+    const auto row = static_cast<std::size_t>(cell / stride - 1);
     const auto first = m_nearCells.begin() + static_cast<std::ptrdiff_t>(m_rowBegins[row]);
     const auto last = m_nearCells.begin() + static_cast<std::ptrdiff_t>(m_rowBegins[row + 1]);
     const auto found = std::lower_bound(
         first, last, cell, [](const NearCell& candidate, std::int32_t wanted) { return candidate.cell < wanted; });
-    return countSides(static_cast<std::size_t>(found - m_nearCells.begin()), (cell - 1) % m_columns, x, y);
+    return countSides(static_cast<std::size_t>(found - m_nearCells.begin()), cell % stride - 1, x, y);
 }
 
 bool OutlineGrid::countSides(std::size_t nearCell, std::int32_t column, double x, double y) const

@@ -30,18 +30,21 @@ struct Area
 class OutlineGrid
 {
 public:
-    /// Covers what the area and the polygon's bounds have in common with cells of `cell` units, a power of two from 1
-    /// on. There are at most 2^24 of them, and about as many sides near them: with more the cells are larger.
-    OutlineGrid(const std::vector<Side>& sides, const Area& area);
+    /// Covers what the area and the polygon's bounds have in common with square cells, `finestCell` wide, a power of
+    /// two. With more than 2^24 of them, or more than that many sides near them beside a few of every side, they are
+    /// larger. The sides stay the caller's.
+    OutlineGrid(const std::vector<Side>& sides, const Area& area, double finestCell);
 
-    /// The cells that positions are in; 0 is beyond the grid, also for what is no number.
+    /// The cells that positions are in. What is beyond the grid, or no number, is in one of the cells around it.
     void find(const double* x, const double* y, std::size_t count, std::int32_t* cells) const;
+
+    bool isBeyond(std::int32_t cell) const { return m_states[static_cast<std::size_t>(cell)] == kBeyond; }
 
     /// Whether a position in a cell is inside. Beyond the grid none is.
     bool isInside(std::int32_t cell, double x, double y) const
     {
         const std::uint8_t state = m_states[static_cast<std::size_t>(cell)];
-        return (state & kNearSides) == 0 ? state != 0 : ((state & kInside) != 0) != countNear(cell, x, y);
+        return (state & kNearSides) == 0 ? state == kInside : ((state & kInside) != 0) != countNear(cell, x, y);
     }
 
 private:
@@ -49,6 +52,7 @@ private:
 
     static constexpr std::uint8_t kInside = 1; // the cell; of one with near sides, what its sum is to be compared with
     static constexpr std::uint8_t kNearSides = 2; // there are some
+    static constexpr std::uint8_t kBeyond = 4;    // the grid
 
     /// Its sides end where those of the next one begin.
     struct NearCell
@@ -61,11 +65,11 @@ private:
     bool countSides(std::size_t nearCell, std::int32_t column, double x, double y) const;
 
     const std::vector<Side>& m_sides;
-    double m_left = 0, m_top = 0, m_cell = 1;
+    double m_left = 0, m_top = 0, m_cell;
     std::int32_t m_columns = 0, m_rows = 0;
-    std::vector<std::uint8_t> m_states{0}; // of cell 0, then row by row
-    std::vector<NearCell> m_nearCells;     // in the order of the cells, and one behind them
-    std::vector<std::size_t> m_rowBegins;  // of each row the first near cell, and one behind them
+    std::vector<std::uint8_t> m_states = std::vector<std::uint8_t>(4, kBeyond); // row by row, and of the cells around
+    std::vector<NearCell> m_nearCells;    // in the order of the cells, and one behind them
+    std::vector<std::size_t> m_rowBegins; // of each row the first near cell, and one behind them
     std::vector<std::uint32_t> m_nearSides;
 };
 

@@ -93,16 +93,23 @@ private:
 inline void Projection::project(const float* points, std::size_t count, PointBlock& block) const
 {
     constexpr double kNowhere = std::numeric_limits<double>::quiet_NaN();
+    for (std::size_t i = 0; i < count; ++i) {
+        block.x[i] = points[3 * i];
+        block.y[i] = points[3 * i + 1];
+        block.depth[i] = points[3 * i + 2];
+    }
     const Projection rows = *this; // a copy that nobody else can change: the loop keeps it in registers
     for (std::size_t i = 0; i < count; ++i) {
-        const double x = points[3 * i];
-        const double y = points[3 * i + 1];
-        const double z = points[3 * i + 2];
+        const double x = block.x[i];
+        const double y = block.y[i];
+        const double z = block.depth[i];
         const double w = along(rows.m_w, x, y, z);
         const ScreenPoint place = rows.placeOf(x, y, z, w);
-        const bool isSeen = (w > 0) & (place.depth >= 0) & (place.depth <= 1);
-        block.x[i] = isSeen ? place.x : kNowhere;
-        block.y[i] = isSeen ? place.y : kNowhere;
+        double seen = w > 0 ? 0.0 : kNowhere; // one after the other: so the compiler makes vectors of it
+        seen = place.depth >= 0 ? seen : kNowhere;
+        seen = place.depth <= 1 ? seen : kNowhere;
+        block.x[i] = place.x + seen;
+        block.y[i] = place.y + seen;
         block.depth[i] = place.depth;
     }
 }
