@@ -58,6 +58,12 @@ std::uint32_t shifted(unsigned index, std::size_t first)
     return indexFrom(static_cast<double>(index) + static_cast<double>(first), 0);
 }
 
+/// A library's scene may have gaps: meshes without points, children that are not there.
+bool isThere(const aiMesh* part)
+{
+    return part && part->mVertices;
+}
+
 void append(const aiMesh& part, const aiMatrix4x4& place, RawMesh& mesh)
 {
     const std::size_t first = mesh.positions.size();
@@ -93,12 +99,13 @@ std::string appendScene(const aiScene& scene, RawMesh& mesh, const Progress& pro
         const Placed at = open.back();
         open.pop_back();
         for (unsigned i = 0; i < at.node->mNumMeshes; ++i)
-            if (at.node->mMeshes[i] < scene.mNumMeshes)
+            if (at.node->mMeshes[i] < scene.mNumMeshes && isThere(scene.mMeshes[at.node->mMeshes[i]]))
                 append(*scene.mMeshes[at.node->mMeshes[i]], at.place, mesh);
         if (count > kMostNodes || mesh.positions.size() > kMostCorners || mesh.triangles.size() > kMostCorners)
             return "is larger than can be shown";
         for (unsigned i = 0; i < at.node->mNumChildren; ++i)
-            open.push_back({at.node->mChildren[i], at.place * at.node->mChildren[i]->mTransformation});
+            if (const aiNode* const child = at.node->mChildren[i])
+                open.push_back({child, at.place * child->mTransformation});
     }
     return {};
 }

@@ -55,6 +55,13 @@ Attempt attempt(ScanFormat format, std::string_view bytes, Progress& progress)
     return made;
 }
 
+/// Editors put a mark before UTF-8.
+std::string_view withoutMark(std::string_view bytes)
+{
+    constexpr std::string_view kMark = "\xEF\xBB\xBF";
+    return bytes.starts_with(kMark) ? bytes.substr(kMark.size()) : bytes;
+}
+
 /// By extension; what has failed so and is of another kind by its content, by that. What fails both ways is told of
 /// the kind that its name promised.
 Attempt attempt(const fs::path& path, std::string_view bytes, Progress& progress)
@@ -84,8 +91,9 @@ std::string remark(const std::string& title, const FinishedModel& finished)
     if (finished.droppedPoints > 0)
         what = counted(finished.droppedPoints, "point without a finite place", "points without a finite place");
     if (finished.droppedTriangles > 0)
-        what += (what.empty() ? "" : " and ") +
-                counted(finished.droppedTriangles, "triangle without three corners", "triangles without three corners");
+        what += (what.empty() ? "" : " and ") + counted(finished.droppedTriangles,
+                                                        "triangle without three different corners",
+                                                        "triangles without three different corners");
     return what.empty() ? what : "Of " + title + " is left out: " + what + '.';
 }
 
@@ -104,7 +112,7 @@ ReadOutcome readTitled(const fs::path& path, const std::string& title, Progress&
             return failed(title, why);
         progress.stage(kFileRead, kMeshRead);
         if (!progress.isCancelled())
-            made = attempt(path, file.view(), progress);
+            made = attempt(path, withoutMark(file.view()), progress);
     }
     if (!progress.isCancelled() && !made.hasWorked())
         return failed(title, made.failure);

@@ -64,13 +64,23 @@ TEST(ModelFile, ReadsByContentWhereTheExtensionIsWrong)
         EXPECT_TRUE(readFile(name, kXyz).model) << name;
 }
 
+TEST(ModelFile, PassesOverTheMarkThatEditorsPutBeforeUtf8)
+{
+    for (const std::string_view text : {kObj, kXyz, kOff}) {
+        const ReadOutcome outcome = readFile("thing.txt", "\xEF\xBB\xBF" + std::string(text));
+        ASSERT_TRUE(outcome.model) << outcome.message;
+        EXPECT_EQ(outcome.model->positions.size(), 3);
+    }
+}
+
 TEST(ModelFile, SaysWhatWasLeftOut)
 {
     const ReadOutcome outcome =
         readFile("thing.obj", "v 0 0 0\nv 1 0 0\nv 0 1 0\nv nan 0 0\nf 1 2 3\nf 1 2 4\nf 1 2 9\n");
     ASSERT_TRUE(outcome.model);
-    EXPECT_EQ(outcome.message,
-              "Of thing.obj is left out: 1 point without a finite place and 2 triangles without three corners.");
+    EXPECT_EQ(
+        outcome.message,
+        "Of thing.obj is left out: 1 point without a finite place and 2 triangles without three different corners.");
 }
 
 TEST(ModelFile, SaysWhyThereIsNothingToRead)
