@@ -24,6 +24,8 @@ constexpr double kSmallestFitDistance = 1.5; // in front of a line that is seen 
 constexpr double kSmallestRadius = 1e-15;
 constexpr double kLargestRadius = 1e15;
 constexpr double kNearestShare = 0.01; // of the target's distance
+// Lines and points are drawn nearer than they are by some of their pixels: of the span, or as a share of the depth.
+constexpr double kFreeInFront = 0.1;
 
 struct Direction
 {
@@ -69,6 +71,35 @@ std::array<double, 3> inDouble(const Point3& point)
 double dot(const std::array<double, 3>& a, const std::array<double, 3>& b)
 {
     return a[0] * b[0] + a[1] * b[1] + a[2] * b[2];
+}
+
+/// How far before the viewer the scene begins and ends; negative numbers are behind.
+struct Depths
+{
+    double nearest, farthest;
+};
+
+void setParallel(double (&projection)[16], const std::array<double, 2>& shares, double span, const Depths& scene)
+{
+    const double nearest = scene.nearest - kFreeInFront * span;
+    const double extent = scene.farthest - nearest;
+    projection[0] = 2 * shares[0] / span;
+    projection[5] = 2 * shares[1] / span;
+    projection[10] = -2 / extent;
+    projection[14] = -(scene.farthest + nearest) / extent;
+    projection[15] = 1;
+}
+
+void setPerspective(double (&projection)[16], const std::array<double, 2>& shares, double span, const Depths& scene)
+{
+    const double distance = span / 2 / kHalfFieldTangent;
+    const double nearest = std::max((1 - kFreeInFront) * scene.nearest, kNearestShare * distance);
+    const double farthest = std::max(scene.farthest, 1.001 * nearest);
+    projection[0] = shares[0] / kHalfFieldTangent;
+    projection[5] = shares[1] / kHalfFieldTangent;
+    projection[10] = -(farthest + nearest) / (farthest - nearest);
+    projection[11] = -1;
+    projection[14] = -2 * farthest * nearest / (farthest - nearest);
 }
 
 } // namespace
@@ -171,24 +202,9 @@ SVQGLVariables Camera::variables() const
     view.m_dModelView[15] = 1;
 
     const double centreDepth = distance() - seen(m_centre)[2];
-    const double reach = m_radius * 1.001;
-    const auto [acrossShare, upShare] = shares();
-    auto& projection = view.m_dProjection;
-    if (m_isOrthographic) {
-        projection[0] = 2 * acrossShare / m_span;
-        projection[5] = 2 * upShare / m_span;
-        projection[10] = -1 / reach;
-        projection[14] = -centreDepth / reach;
-        projection[15] = 1;
-        return view;
-    }
-    const double nearest = std::max(centreDepth - reach, kNearestShare * distance());
-    const double farthest = std::max(centreDepth + reach, 2 * nearest);
-    projection[0] = acrossShare / kHalfFieldTangent;
-    projection[5] = upShare / kHalfFieldTangent;
-    projection[10] = -(farthest + nearest) / (farthest - nearest);
-    projection[11] = -1;
-    projection[14] = -2 * farthest * nearest / (farthest - nearest);
+    const double reach = m_radius * 1.001; // rounding
+    const auto setProjection = m_isOrthographic ? setParallel : setPerspective;
+    setProjection(view.m_dProjection, shares(), m_span, {centreDepth - reach, centreDepth + reach});
     return view;
 }
 

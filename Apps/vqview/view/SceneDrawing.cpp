@@ -27,6 +27,7 @@ void useNormals(const Model& model)
     glNormalPointer(GL_FLOAT, 0, model.normals.data());
 }
 
+/// A number of indices that does not fit is beyond all scans: 2^31 of them are 8 GB.
 template <std::size_t Count>
 void emit(GLenum kind, const std::vector<std::array<std::uint32_t, Count>>& indices)
 {

@@ -38,7 +38,7 @@ public:
     /// - The background is `DPC_BACKGROUND` at the lower edge, and upwards goes a third of the way to white.
     /// - The lights stand as the viewer does, so that their positions are in the picture's axes. Beside their own
     ///   ambient light there is none. Faces are of `DPM_BODY`, seen from within their diffuse light is that of
-    ///   `DPC_BACKFACE_USERDEFINE`; a cloud with normals is lit so as well, one without is in `DPC_PROBEPOINT`.
+    ///   `DPC_BACKFACE_USERDEFINE`; a cloud with normals is lit so as well. What has no normals is in `DPC_PROBEPOINT`.
     /// - Edges and vertices are in `DPC_BODYEDGE`, as wide as `DPS_FACEEDGE` and `DPS_VERTEX`, selected points in
     ///   `DPC_SELECTEDENTITY` as wide as `DPS_PICKEDVERTEX`: pixels times `scale`. Only faces that are drawn hide them,
     ///   and so do the points of a cloud, which are drawn always.

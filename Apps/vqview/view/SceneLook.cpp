@@ -117,7 +117,7 @@ void bringNearer(const SVQGLVariables& view, double pixels)
     if (isOrthographic)
         projection[14] += projection[10] * pixel * pixels;
     else
-        projection[10] *= 1 - pixel * pixels;
+        projection[14] *= 1 + pixel * pixels;
     glMatrixMode(GL_PROJECTION);
     glLoadMatrixd(projection);
     glMatrixMode(GL_MODELVIEW);

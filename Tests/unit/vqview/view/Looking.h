@@ -6,7 +6,7 @@
 
 #include "vqview/view/Camera.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <algorithm>
 #include <array>
