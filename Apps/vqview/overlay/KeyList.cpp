@@ -14,6 +14,8 @@ constexpr float kRowGap = 3;
 constexpr float kGap = 14;       // from a key to what it does
 constexpr float kColumnGap = 32; // from one column to the next
 constexpr float kCorner = 10;
+constexpr float kShrink = 0.9F; // from one size of the font to the next
+constexpr float kSmallest = 0.65F;
 
 /// Where the list's parts lie.
 struct KeyGrid
@@ -23,6 +25,10 @@ struct KeyGrid
     LONG columns = 1;
     LONG rows = 0; ///< a column
 
+    bool isWhole(const CSize& room, float scale) const
+    {
+        return rows * columns >= static_cast<LONG>(kKeyRows.size()) && width(scale) <= room.cx;
+    }
     LONG width(float scale) const
     {
         const LONG column = keyWidth + pixels(kGap, scale) + effectWidth;
@@ -71,6 +77,17 @@ void drawRow(CVQDIB& image, const KeyStyles& styles, const KeyGrid& grid, const 
              effect + grid.effectWidth, at.y);
 }
 
+void drawRows(CVQDIB& image, const KeyStyles& styles, const KeyGrid& grid, const CRect& box, float scale)
+{
+    const LONG padding = pixels(kPadding, scale);
+    const LONG columnStep = (box.Width() - 2 * padding + pixels(kColumnGap, scale)) / grid.columns;
+    const LONG count = std::min<LONG>(grid.rows * grid.columns, static_cast<LONG>(kKeyRows.size()));
+    for (LONG i = 0; i < count; ++i)
+        drawRow(image, styles, grid, kKeyRows[static_cast<std::size_t>(i)],
+                {box.left + padding + i / grid.rows * columnStep, box.top + padding + i % grid.rows * grid.rowHeight},
+                scale);
+}
+
 void drawPanel(CVQDIB& image, const CRect& box, float scale)
 {
     const CVQColor colour =
@@ -84,21 +101,21 @@ void drawPanel(CVQDIB& image, const CRect& box, float scale)
 
 CRect drawKeys(CVQDIB& image, float scale)
 {
-    const KeyStyles styles = stylesOf(scale);
     const LONG margin = pixels(kMargin, scale);
     const CSize room(image.GetWidth() - 2 * margin, image.GetHeight() - noticeRows(scale) - margin);
-    const KeyGrid grid = gridFor(room, styles, scale);
+    KeyStyles styles = stylesOf(scale);
+    KeyGrid grid = gridFor(room, styles, scale);
+    for (float smaller = scale * kShrink; !grid.isWhole(room, scale) && smaller > scale * kSmallest;
+         smaller *= kShrink) {
+        styles = stylesOf(smaller);
+        grid = gridFor(room, styles, scale);
+    }
     if (grid.rows < 1 || grid.effectWidth < grid.rowHeight)
         return {};
     const CSize size(grid.width(scale), grid.height(scale));
-    const CPoint corner(margin + (room.cx - size.cx) / 2, margin + (room.cy - size.cy) / 2);
-    const CRect box(corner, size);
+    const CRect box(CPoint(margin + (room.cx - size.cx) / 2, margin + (room.cy - size.cy) / 2), size);
     drawPanel(image, box, scale);
-    const CPoint first = corner + CPoint(pixels(kPadding, scale), pixels(kPadding, scale));
-    const LONG columnStep = (size.cx - 2 * pixels(kPadding, scale) + pixels(kColumnGap, scale)) / grid.columns;
-    for (LONG i = 0; i < std::min<LONG>(grid.rows * grid.columns, static_cast<LONG>(kKeyRows.size())); ++i)
-        drawRow(image, styles, grid, kKeyRows[static_cast<std::size_t>(i)],
-                first + CPoint(i / grid.rows * columnStep, i % grid.rows * grid.rowHeight), scale);
+    drawRows(image, styles, grid, box, scale);
     return box;
 }
 

@@ -12,13 +12,40 @@ namespace vqview {
 
 namespace {
 
-constexpr float kBeside = 8;        // units from a picked point to its number
-constexpr float kBelow = 4;         // from an edge of the bounds to its size
-constexpr float kShortestEdge = 24; // that gets its size
+constexpr float kBeside = 12;       // units from a picked point to its number, past the sphere there
+constexpr float kFromLine = 3;      // from a line to what names it
+constexpr float kShortestEdge = 24; // of the bounds that gets its size
 
 struct WindowPoint
 {
     double x = 0, y = 0, depth = 0; // y upwards
+};
+
+/// In pixels of an image, y downwards.
+struct Direction
+{
+    double x = 0, y = 0;
+};
+
+constexpr Direction kRight{1, 0};
+constexpr Direction kUp{0, -1};
+constexpr Direction kDown{0, 1};
+
+/// A line as it is seen, and the middle of what it stands for.
+struct SeenLine
+{
+    WindowPoint from, to, middle;
+
+    double length() const { return std::hypot(to.x - from.x, to.y - from.y); }
+    /// Upright to the line, to the side that is named; that itself where the line is a point.
+    Direction sideTo(const Direction& side) const
+    {
+        if (!(length() > 0))
+            return side;
+        const Direction across{(to.y - from.y) / length(), (to.x - from.x) / length()};
+        const double sign = across.x * side.x + across.y * side.y < 0 ? -1 : 1;
+        return {across.x * sign, across.y * sign};
+    }
 };
 
 /// Where labels are put, and how large they are.
@@ -30,10 +57,13 @@ struct Placing
 
     /// Nothing for what lies behind the eye, which would be seen mirrored.
     std::optional<WindowPoint> seen(const Point3& point) const;
-    /// Adds a label with its upper left corner so many pixels from a point, y downwards.
-    void add(const CString& text, const WindowPoint& at, LONG right, LONG down) const;
-    void addCentred(const CString& text, const WindowPoint& at, LONG down) const;
-    LONG halfLine() const { return style.lineHeight() / 2; }
+    std::optional<SeenLine> seen(const Point3& from, const Point3& to) const;
+    /// Adds a label with its middle in some direction from a point, so far that their distance is as given, in units.
+    void add(const CString& text, const WindowPoint& at, const Direction& direction, float distance) const;
+    void addBeside(const CString& text, const SeenLine& line, const Direction& side) const
+    {
+        add(text, line.middle, line.sideTo(side), kFromLine);
+    }
 };
 
 /// The fourth of a point's clip coordinates: its distance in front of the eye, or 1 without a perspective.
@@ -59,11 +89,24 @@ std::optional<WindowPoint> Placing::seen(const Point3& point) const
     return window;
 }
 
-void Placing::add(const CString& text, const WindowPoint& at, LONG right, LONG down) const
+std::optional<SeenLine> Placing::seen(const Point3& from, const Point3& to) const
 {
+    const auto first = seen(from);
+    const auto last = seen(to);
+    const auto middle = seen(Point3{(from.x + to.x) / 2, (from.y + to.y) / 2, (from.z + to.z) / 2});
+    if (!first || !last || !middle)
+        return std::nullopt;
+    return SeenLine{*first, *last, *middle};
+}
+
+void Placing::add(const CString& text, const WindowPoint& at, const Direction& direction, float distance) const
+{
+    const CSize size = CVQDIB::GetTextSize(style.font, text);
+    const double away = std::fabs(direction.x) * size.cx / 2 + std::fabs(direction.y) * size.cy / 2 +
+                        pixels(distance, scale) * std::hypot(direction.x, direction.y);
     // The list takes a place of the scene. The middle of a pixel stays in it whatever the conversions round.
-    const double x = std::floor(at.x + right) + 0.5;
-    const double y = std::floor(at.y - down) + 0.5;
+    const double x = std::floor(at.x + direction.x * away - size.cx / 2.0) + 0.5;
+    const double y = std::floor(at.y - direction.y * away + size.cy / 2.0) + 0.5;
     double scene[3];
     if (gluUnProject(x, y, at.depth, view.m_dModelView, view.m_dProjection, view.m_iViewport, &scene[0], &scene[1],
                      &scene[2]) != GL_TRUE)
@@ -72,19 +115,14 @@ void Placing::add(const CString& text, const WindowPoint& at, LONG right, LONG d
                                static_cast<float>(scene[2]), L"%s", text.GetString());
 }
 
-void Placing::addCentred(const CString& text, const WindowPoint& at, LONG down) const
-{
-    add(text, at, -CVQDIB::GetTextSize(style.font, text).cx / 2, down);
-}
-
 CString lengthText(double length)
 {
     return CVQUnit::GetDeciPointedString(length, true, VQ_UNIT_LENGTH, true, true, true, -1);
 }
 
-Point3 middleOf(const Point3& a, const Point3& b)
+double distanceOf(const Point3& a, const Point3& b)
 {
-    return {(a.x + b.x) / 2, (a.y + b.y) / 2, (a.z + b.z) / 2};
+    return std::hypot(double{b.x} - a.x, double{b.y} - a.y, double{b.z} - a.z);
 }
 
 void addPicked(std::span<const Point3> picked, const Placing& placing)
@@ -93,31 +131,21 @@ void addPicked(std::span<const Point3> picked, const Placing& placing)
         CString number;
         number.Format(L"%d", static_cast<int>(i + 1));
         if (const auto at = placing.seen(picked[i]))
-            placing.add(number, *at, pixels(kBeside, placing.scale), -placing.halfLine());
+            placing.add(number, *at, kRight, kBeside);
         if (i + 1 == picked.size())
             return;
-        const Point3& next = picked[i + 1];
-        const double distance =
-            std::hypot(double{next.x} - picked[i].x, double{next.y} - picked[i].y, double{next.z} - picked[i].z);
-        if (const auto middle = placing.seen(middleOf(picked[i], next)))
-            placing.addCentred(lengthText(distance), *middle, -placing.halfLine());
+        if (const auto line = placing.seen(picked[i], picked[i + 1]))
+            placing.addBeside(lengthText(distanceOf(picked[i], picked[i + 1])), *line, kUp);
     }
 }
 
-/// An edge of the bounds as it is seen.
-struct SeenEdge
-{
-    WindowPoint middle;
-    double outwards; ///< the larger, the farther below, or to the right of an upright edge
-    double length;
-};
-
 enum Axis : std::size_t { X, Y, Z };
 
-std::optional<SeenEdge> seenEdge(const Bounds& bounds, Axis axis, unsigned which, const Placing& placing)
+/// One of the four edges along an axis.
+std::optional<SeenLine> seenEdge(const Bounds& bounds, Axis axis, unsigned which, const Placing& placing)
 {
-    const std::array<float, 3> least{bounds.least.x, bounds.least.y, bounds.least.z};
-    const std::array<float, 3> most{bounds.most.x, bounds.most.y, bounds.most.z};
+    const std::array least{bounds.least.x, bounds.least.y, bounds.least.z};
+    const std::array most{bounds.most.x, bounds.most.y, bounds.most.z};
     std::array<float, 3> from = least;
     const std::size_t second = (axis + 1) % 3;
     const std::size_t third = (axis + 2) % 3;
@@ -125,30 +153,20 @@ std::optional<SeenEdge> seenEdge(const Bounds& bounds, Axis axis, unsigned which
     from[third] = (which & 2) != 0 ? most[third] : least[third];
     std::array<float, 3> to = from;
     to[axis] = most[axis];
-    const Point3 first{from[0], from[1], from[2]};
-    const Point3 last{to[0], to[1], to[2]};
-    const auto a = placing.seen(first);
-    const auto b = placing.seen(last);
-    const auto middle = placing.seen(middleOf(first, last));
-    if (!a || !b || !middle)
-        return std::nullopt;
-    return SeenEdge{*middle, axis == Y ? middle->x : -middle->y, std::hypot(a->x - b->x, a->y - b->y)};
+    return placing.seen({from[0], from[1], from[2]}, {to[0], to[1], to[2]});
 }
 
+/// The size stands outside of the lowest edge, or at the right of the rightmost where edges are upright.
 void addSize(const Bounds& bounds, Axis axis, double size, const Placing& placing)
 {
-    std::optional<SeenEdge> outermost;
+    const auto outwards = [axis](const SeenLine& edge) { return axis == Y ? edge.middle.x : -edge.middle.y; };
+    std::optional<SeenLine> outermost;
     for (unsigned which = 0; which < 4; ++which)
         if (const auto edge = seenEdge(bounds, axis, which, placing);
-            edge && (!outermost || edge->outwards > outermost->outwards))
+            edge && (!outermost || outwards(*edge) > outwards(*outermost)))
             outermost = edge;
-    if (!outermost || outermost->length < pixels(kShortestEdge, placing.scale))
-        return;
-    const LONG distance = pixels(kBelow, placing.scale);
-    if (axis == Y)
-        placing.add(lengthText(size), outermost->middle, distance, -placing.halfLine());
-    else
-        placing.addCentred(lengthText(size), outermost->middle, distance);
+    if (outermost && outermost->length() >= pixels(kShortestEdge, placing.scale))
+        placing.addBeside(lengthText(size), *outermost, axis == Y ? kRight : kDown);
 }
 
 void addSizes(const Bounds& bounds, const Placing& placing)
@@ -168,7 +186,7 @@ void addCount(std::size_t count, const Point3& centre, const Placing& placing)
         CVQUnit::GetDeciPointedString(static_cast<double>(count), false, VQ_UNIT_END, true, false, false, 0) +
         (count == 1 ? L" point" : L" points");
     if (const auto at = placing.seen(centre))
-        placing.addCentred(text, *at, -placing.halfLine());
+        placing.add(text, *at, {}, 0);
 }
 
 } // namespace

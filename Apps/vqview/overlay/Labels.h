@@ -13,14 +13,15 @@ namespace vqview {
 /// What labels name in a frame.
 struct LabelContent
 {
-    std::span<const Point3> picked; ///< each gets its number, and the distance to the next at the middle between them
-    Bounds bounds;                  ///< its sizes at the middles of three edges, the outermost ones; none when empty
+    std::span<const Point3> picked; ///< each gets its number, and the distance to the next beside the line between them
+    Bounds bounds;                  ///< its sizes, outside of the middles of three edges; none when empty
     std::size_t selectedCount = 0;  ///< at the centre of what is selected; none when 0
     Point3 selectedCentre;
 };
 
-/// Adds labels for one frame to `CVQDrawingAPI::Text()`, so that each stands beside (number), or centred on (all else)
-/// its place in the view. What lies behind the eye gets none.
+/// Adds labels for one frame to `CVQDrawingAPI::Text()`. What is behind the eye gets none, and neither does an edge of
+/// the bounds that is seen from its end. Text that is centred on a place, or stands beside it, does so in
+/// `DPF_MEASUREMENT_FONT` as `drawLabels` scales it.
 void addLabels(const LabelContent& content, const SVQGLVariables& view, float scale);
 
 enum class DragShapes { Drawn, LeftOut };

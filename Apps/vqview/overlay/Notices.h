@@ -46,7 +46,9 @@ inline constexpr std::array kKeyRows{
 CRect drawStatus(CVQDIB& image, const std::string& text, float scale);
 /// One line at the centre of the row above the status line.
 CRect drawNotice(CVQDIB& image, const std::string& text, float scale);
-/// The list of keys in the middle of the image, in two columns, or one where two do not fit. It may cover a report.
+/// The list of keys in the middle of the image, above the rows of status and notice: in two columns, or one where two
+/// do not fit. In a small image its font is smaller, down to two thirds; what then still does not fit is left out from
+/// the end. It covers a report.
 CRect drawKeys(CVQDIB& image, float scale);
 /// @}
 

@@ -11,18 +11,21 @@ namespace {
 
 using namespace report;
 
-constexpr float kMargin = 12;    // lengths are in units
-constexpr float kGap = 12;       // between the two columns
-constexpr float kColumnGap = 16; // from a label to its value
+constexpr float kMargin = 12;     // lengths are in units
+constexpr float kGap = 12;        // between the two columns
+constexpr float kColumnGap = 16;  // from a label to its value
+constexpr float kUsualCard = 176; // at least, where there is room
 constexpr float kBar = 14;
 constexpr float kHistogram = 104;
+constexpr float kLongestHeading = 200; // that widens the box
 constexpr float kPartGap = 8;
 constexpr float kBin = 6;
 constexpr float kLowestPlot = 66;
 constexpr float kHighestPlot = 300;
 constexpr float kPlotShare = 0.45F; // of the room
 constexpr LONG kTitleEms = 5;       // that are always shown
-constexpr int kMostTicks = 8;
+constexpr int kMostTicks = 12;
+constexpr float kTickLines = 1.7F; // of text, from one tick to the next
 
 /// What is shown; the order in which parts are left out is that of `kLevels`.
 struct Level
@@ -88,7 +91,7 @@ private:
         const LONG room = right - m_room.left - 2 * px(kPadding);
         if (std::max(leastTitle, factsWidth) > room)
             return false;
-        const LONG width = std::min(std::max(titleWidth, factsWidth), room) + 2 * px(kPadding);
+        const LONG width = std::min(std::max({titleWidth, factsWidth, px(kUsualCard)}), room) + 2 * px(kPadding);
         LONG y = m_room.top;
         const auto part = [&](LONG height) {
             y += height;
@@ -117,7 +120,7 @@ private:
             layout.binHeight * layout.binHeight;
         if (plot < px(kLowestPlot) - layout.binHeight)
             return false;
-        const LONG ticks = plot / std::max<LONG>(m_texts.axisStyle.lineHeight() * 2, 1);
+        const float ticks = static_cast<float>(plot) / (static_cast<float>(2 * half) * kTickLines);
         layout.ticks =
             ticksOf(m_statistics.least, m_statistics.most, std::clamp(static_cast<int>(ticks) + 1, 2, kMostTicks));
         const LONG top = m_room.top + above;
@@ -145,8 +148,7 @@ private:
         if (level.legend)
             inner =
                 std::max(inner, px(kSwatch) + px(kSwatchGap) + widestOf(m_texts.legend, m_texts.factStyle, m_scale));
-        if (level.histogram)
-            inner = std::max(inner, m_texts.headingStyle.widthOf(m_texts.heading));
+        inner = std::max(inner, std::min(m_texts.headingStyle.widthOf(m_texts.heading), px(kLongestHeading)));
         const LONG width = inner + 2 * px(kPadding);
         if (width > m_room.Width())
             return false;

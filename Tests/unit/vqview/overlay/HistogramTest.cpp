@@ -113,8 +113,8 @@ TEST(Histogram, OfAMillionValuesIsQuick)
         const auto start = std::chrono::steady_clock::now();
         const Statistics statistics = statisticsOf(values);
         const Histogram histogram = histogramOf(values, selected, statistics, 50);
-        best = std::min(
-            best, std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count());
+        best =
+            std::min(best, std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count());
         EXPECT_EQ(histogram.selectedCount, selected.size());
     }
     RecordProperty("milliseconds", std::to_string(best));
