@@ -11,12 +11,12 @@ namespace vqview {
 
 /// What a document holds beside the preferences, which it takes from the store and gives back to it.
 ///
-/// On disk, numbers with the low byte first: "VQVD", a version, the scan's path as UTF-8 behind its length, scene colours
-/// and sizes, colours of controls, materials, fonts, colours of histograms and of reports, the report image, the
-/// texture, the selection.
+/// On disk, numbers with the low byte first: "VQVD", a version, the scan's path as UTF-8 behind its length, scene
+/// colours and sizes, colours of controls, materials, fonts, colours of histograms and of reports, the report image,
+/// the texture, the selection.
 struct Document
 {
-    std::string scan;   ///< UTF-8; empty when none was shown
+    std::string scan; ///< UTF-8; empty when none was shown
     CVQDIB report{1, 1};
     CVQTexture texture{4, 4};
     CVQSelectionSet selection;

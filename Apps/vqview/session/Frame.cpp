@@ -94,8 +94,11 @@ void Session::State::drawMarks()
     drawMarkers(markers, view, radius, scale);
     if (model->normals.size() != model->positions.size())
         return;
-    const Marker disk{MarkerKind::Disk, model->positions[picked.back()], model->normals[picked.back()], {},
-                      DPM_REGION_PLANE};
+    const Point3& normal = model->normals[picked.back()];
+    const Point3& at = model->positions[picked.back()];
+    const float lift = radius / 2; // over what bends towards it
+    const Point3 above{at.x + normal.x * lift, at.y + normal.y * lift, at.z + normal.z * lift};
+    const Marker disk{MarkerKind::Disk, above, normal, {}, DPM_REGION_PLANE};
     drawMarkers({&disk, 1}, view, radius * kDiskInSpheres, scale);
 }
 
@@ -128,14 +131,14 @@ void Session::State::drawOverlay(CVQDIB& image, bool withReport, bool withShape)
     if (!model)
         return;
     const SVQGLVariables view = camera.variables();
-    if (withReport)
-        drawReport(image, reportContent(), scale);
     if (shown.labels) {
         const std::vector<Point3> points = pickedPoints();
         addLabels({points, model->bounds, selecting.indices().size(), selectedCentre()}, view, scale);
     }
     if (shown.labels || withShape)
         drawLabels(image, view, scale, withShape ? DragShapes::Drawn : DragShapes::LeftOut);
+    if (withReport)
+        drawReport(image, reportContent(), scale);
 }
 
 void Session::draw()

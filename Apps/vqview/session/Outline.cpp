@@ -32,8 +32,8 @@ std::vector<CPoint> outlineOf(const CVQDragCircle& circle)
     std::vector<CPoint> corners;
     for (int corner = 0; corner < kCorners; ++corner) {
         const double angle = 2 * std::numbers::pi * corner / kCorners;
-        corners.push_back(rounded(circle.GetCenterX() + radius * std::cos(angle),
-                                  circle.GetCenterY() + radius * std::sin(angle)));
+        corners.push_back(
+            rounded(circle.GetCenterX() + radius * std::cos(angle), circle.GetCenterY() + radius * std::sin(angle)));
     }
     return corners;
 }

@@ -26,7 +26,8 @@ std::string quoted(std::string_view word)
 class Line
 {
 public:
-    Line(Words words, std::string_view text, ScriptStage& stage) : m_words(std::move(words)), m_text(text), m_stage(stage)
+    Line(Words words, std::string_view text, ScriptStage& stage)
+        : m_words(std::move(words)), m_text(text), m_stage(stage)
     {
         while (!m_words.empty() && takeModifier(m_words.back()))
             m_words.pop_back();

@@ -21,8 +21,8 @@ struct ScriptStage
     std::function<void(const std::string& line)> print;
 };
 
-/// Mouse and keys as text, a command a line; `#` begins a comment. Coordinates are pixels, or parts of the frame's width
-/// and height: `50%`. `ctrl` and `shift` at the end of a line are held meanwhile.
+/// Mouse and keys as text, a command a line; `#` begins a comment. Coordinates are pixels, or parts of the frame's
+/// width and height: `50%`. `ctrl` and `shift` at the end of a line are held meanwhile.
 ///
 /// | command | does |
 /// |---|---|

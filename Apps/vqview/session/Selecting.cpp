@@ -12,9 +12,9 @@ namespace vqview {
 namespace {
 
 constexpr int kViewId = 1;
-constexpr double kBandHalfWidth = 12;  // of a new band, units
-constexpr double kCloseDistance = 8;   // a click so near to the first corner closes the polygon, units
-constexpr double kPickDistance = 10;   // how far a point may be from the mouse to be picked, units
+constexpr double kBandHalfWidth = 12; // of a new band, units
+constexpr double kCloseDistance = 8;  // a click so near to the first corner closes the polygon, units
+constexpr double kPickDistance = 10;  // how far a point may be from the mouse to be picked, units
 
 /// The bits by which `CVQDrawingAPI` chooses a shape; 0 for tools without one.
 struct ShapeOfTool
@@ -74,12 +74,17 @@ void Selecting::setTool(Tool tool)
 bool Selecting::isDrawing() const
 {
     switch (m_tool) {
-    case Tool::Box: return CVQDrawingAPI::DragBox()->CheckSelection();
-    case Tool::Circle: return CVQDrawingAPI::DragCircle()->CheckSelection();
-    case Tool::Band: return CVQDrawingAPI::DragLine()->CheckSelection();
+    case Tool::Box:
+        return CVQDrawingAPI::DragBox()->CheckSelection();
+    case Tool::Circle:
+        return CVQDrawingAPI::DragCircle()->CheckSelection();
+    case Tool::Band:
+        return CVQDrawingAPI::DragLine()->CheckSelection();
     case Tool::Lasso:
-    case Tool::Polygon: return CVQDrawingAPI::DragPolygon()->CheckSelection();
-    default: return false;
+    case Tool::Polygon:
+        return CVQDrawingAPI::DragPolygon()->CheckSelection();
+    default:
+        return false;
     }
 }
 

@@ -15,7 +15,8 @@
 
 namespace vqview {
 
-/// What becomes of the selection so far: Ctrl adds and Shift subtracts, the other way round when exchanged, both toggle.
+/// What becomes of the selection so far: Ctrl adds and Shift subtracts, the other way round when exchanged, both
+/// toggle.
 EVQSelectionMode modeOf(Modifiers held, bool exchanged);
 
 /// The selection of a scan and the tools that change it. The shapes are those of `CVQDrawingAPI`, which draws them.

@@ -41,10 +41,14 @@ static_assert(areInOrder());
 const char* effectOf(EVQSelectionMode mode)
 {
     switch (mode) {
-    case VQ_SELECT_ADD: return "adds to the selection";
-    case VQ_SELECT_SUBTRACT: return "takes from the selection";
-    case VQ_SELECT_TOGGLE: return "turns the selection over";
-    default: return "selects anew";
+    case VQ_SELECT_ADD:
+        return "adds to the selection";
+    case VQ_SELECT_SUBTRACT:
+        return "takes from the selection";
+    case VQ_SELECT_TOGGLE:
+        return "turns the selection over";
+    default:
+        return "selects anew";
     }
 }
 
@@ -67,10 +71,22 @@ void Session::setSize(int width, int height, float scale)
     m_state->lookedElsewhere();
 }
 
-int Session::width() const { return m_state->width; }
-int Session::height() const { return m_state->height; }
-SVQGLVariables Session::variables() const { return m_state->camera.variables(); }
-bool Session::wantsFrame() const { return m_state->wantsFrame || m_state->loader.isLoading(); }
+int Session::width() const
+{
+    return m_state->width;
+}
+int Session::height() const
+{
+    return m_state->height;
+}
+SVQGLVariables Session::variables() const
+{
+    return m_state->camera.variables();
+}
+bool Session::wantsFrame() const
+{
+    return m_state->wantsFrame || m_state->loader.isLoading();
+}
 
 void Session::poll()
 {
@@ -116,12 +132,27 @@ void Session::show(std::shared_ptr<const Model> model)
     m_state->showModel(std::move(model));
 }
 
-std::shared_ptr<const Model> Session::model() const { return m_state->model; }
-bool Session::isLoading() const { return m_state->loader.isLoading(); }
-double Session::progress() const { return m_state->loader.progress(); }
-void Session::cancelLoading() { m_state->loader.cancel(); }
+std::shared_ptr<const Model> Session::model() const
+{
+    return m_state->model;
+}
+bool Session::isLoading() const
+{
+    return m_state->loader.isLoading();
+}
+double Session::progress() const
+{
+    return m_state->loader.progress();
+}
+void Session::cancelLoading()
+{
+    m_state->loader.cancel();
+}
 
-Tool Session::tool() const { return m_state->selecting.tool(); }
+Tool Session::tool() const
+{
+    return m_state->selecting.tool();
+}
 
 void Session::setTool(Tool tool)
 {
@@ -129,7 +160,10 @@ void Session::setTool(Tool tool)
     m_state->changed();
 }
 
-bool Session::selectsThrough() const { return m_state->throughAll; }
+bool Session::selectsThrough() const
+{
+    return m_state->throughAll;
+}
 
 void Session::setSelectsThrough(bool through)
 {
@@ -137,7 +171,10 @@ void Session::setSelectsThrough(bool through)
     m_state->changed();
 }
 
-bool Session::exchangesKeys() const { return m_state->selecting.exchangesKeys(); }
+bool Session::exchangesKeys() const
+{
+    return m_state->selecting.exchangesKeys();
+}
 
 void Session::setExchangesKeys(bool exchanged)
 {
@@ -145,11 +182,26 @@ void Session::setExchangesKeys(bool exchanged)
     m_state->changed();
 }
 
-std::size_t Session::selectedCount() const { return m_state->selecting.indices().size(); }
-const std::vector<std::uint32_t>& Session::selected() const { return m_state->selecting.indices(); }
-const std::vector<std::uint32_t>& Session::picked() const { return m_state->picked; }
-bool Session::canUndo() const { return m_state->selecting.canUndo(); }
-bool Session::canRedo() const { return m_state->selecting.canRedo(); }
+std::size_t Session::selectedCount() const
+{
+    return m_state->selecting.indices().size();
+}
+const std::vector<std::uint32_t>& Session::selected() const
+{
+    return m_state->selecting.indices();
+}
+const std::vector<std::uint32_t>& Session::picked() const
+{
+    return m_state->picked;
+}
+bool Session::canUndo() const
+{
+    return m_state->selecting.canUndo();
+}
+bool Session::canRedo() const
+{
+    return m_state->selecting.canRedo();
+}
 
 void Session::undo()
 {
@@ -194,7 +246,10 @@ void Session::fit()
     m_state->lookedElsewhere();
 }
 
-bool Session::isOrthographic() const { return m_state->camera.isOrthographic(); }
+bool Session::isOrthographic() const
+{
+    return m_state->camera.isOrthographic();
+}
 
 void Session::setOrthographic(bool orthographic)
 {
@@ -208,7 +263,10 @@ void Session::lookAlong(Side side)
     m_state->lookedElsewhere();
 }
 
-VertexValue Session::value() const { return m_state->value; }
+VertexValue Session::value() const
+{
+    return m_state->value;
+}
 
 void Session::setValue(VertexValue value)
 {
@@ -241,8 +299,14 @@ std::string Session::statusLine() const
     return line;
 }
 
-std::string Session::notice() const { return m_state->notice; }
-void Session::say(const std::string& notice) { m_state->say(notice); }
+std::string Session::notice() const
+{
+    return m_state->notice;
+}
+void Session::say(const std::string& notice)
+{
+    m_state->say(notice);
+}
 
 void Session::preferencesChanged()
 {
@@ -300,7 +364,13 @@ bool Session::openDocument(const std::filesystem::path& path)
     return true;
 }
 
-CVQDIB& Session::reportImage() { return m_state->report; }
-CVQTexture& Session::texture() { return m_state->texture; }
+CVQDIB& Session::reportImage()
+{
+    return m_state->report;
+}
+CVQTexture& Session::texture()
+{
+    return m_state->texture;
+}
 
 } // namespace vqview

@@ -9,9 +9,7 @@
 
 namespace vqview {
 
-Session::State::State() : selecting([this] { return selectionView(); })
-{
-}
+Session::State::State() : selecting([this] { return selectionView(); }) {}
 
 void Session::State::say(std::string text)
 {
@@ -92,8 +90,8 @@ std::optional<Point3> Session::State::placeAt(CPoint at)
         return std::nullopt;
     SVQGLVariables view = camera.variables();
     double x = 0, y = 0, z = 0;
-    if (!gluUnProject(at.x + 0.5, height - at.y - 0.5, seen, view.m_dModelView, view.m_dProjection, view.m_iViewport, &x,
-                      &y, &z))
+    if (!gluUnProject(at.x + 0.5, height - at.y - 0.5, seen, view.m_dModelView, view.m_dProjection, view.m_iViewport,
+                      &x, &y, &z))
         return std::nullopt;
     return Point3{static_cast<float>(x), static_cast<float>(y), static_cast<float>(z)};
 }
