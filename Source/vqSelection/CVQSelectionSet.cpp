@@ -40,7 +40,6 @@ Number readNumber(CVQArchive& archive)
 [[noreturn]] void refuse()
 {
     AfxThrowArchiveException(CArchiveException::badIndex);
-    throw; // not reached
 }
 
 /// Piece by piece: a length that is a lie costs one piece.
