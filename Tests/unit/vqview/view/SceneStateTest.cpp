@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "gl/GLState.h"
 #include "unit/vqview/view/ViewScene.h"
+#include "vqview/view/Camera.h"
 
 namespace vqview::test {
 namespace {
@@ -84,6 +85,20 @@ TEST_F(SceneState, OnlyTheViewportIsDrawnInto)
     std::vector<float> depth;
     scene->readDepth(view, depth);
     EXPECT_EQ(depth.size(), std::size_t{100} * 70);
+}
+
+TEST_F(SceneState, AWindowOfOnePixelIsDrawnInto)
+{
+    showSomething();
+    Camera camera;
+    camera.setSize(1, 1);
+    camera.fit(boundsOf({{30, 20, -50}, {150, 80, 40}}));
+    glClearColor(1, 0, 1, 1);
+    glClear(GL_COLOR_BUFFER_BIT);
+    draw(camera.variables(), kAll);
+    constexpr Colour kCleared{255, 0, 255};
+    EXPECT_EQ(count(kCleared), kWidth * kHeight - 1);
+    EXPECT_FALSE(shows(0, 0, kCleared));
 }
 
 int displayLists()
