@@ -115,6 +115,8 @@ constexpr std::string_view kCodecs = "Source/Platform/gdiplus/codecs/";
 constexpr std::string_view kProfiles = "Source/Platform/profiles/";
 constexpr std::string_view kExamples = "Examples/";
 constexpr std::string_view kOffScreen = "support/offscreen/"; // OpenGL without a window, for examples and tests
+constexpr std::string_view kApps = "Apps/";
+constexpr std::string_view kViewerTests = "Tests/unit/vqview/";
 constexpr std::string_view kPurePromise = "Standard library only";
 
 /// The standard library, and the vector instructions that the compiler brings along on every system.
@@ -206,7 +208,8 @@ Faults includeStyleFaults(const SourceFile& file)
         const bool ofFolder = !file.isBelow("Source/") && existsOnTheWayUp(file, include.header);
         const bool ofOffScreen =
             !file.isBelow("Source/") && include.isBelow(kOffScreen) && exists(kExamples, include.header);
-        if (include.quoted && !ofProject && !ofFolder && !ofOffScreen)
+        const bool ofViewer = file.isBelow(kViewerTests) && exists(kApps, include.header);
+        if (include.quoted && !ofProject && !ofFolder && !ofOffScreen && !ofViewer)
             faults.push_back(fault(file, include.line, include.header + " is not written from Source/"));
         if (!include.quoted && ofProject && file.isBelow("Source/"))
             faults.push_back(fault(file, include.line, include.header + " belongs in quotes"));

@@ -77,6 +77,14 @@ TEST(IncludeCheck, LetsTestsAndExamplesShareTheOffScreenContextOnly)
     EXPECT_THAT(includeStyleFaults({"Tests/gl/Scene.h", {"#include \"support/Photograph.h\""}}), SizeIs(1));
 }
 
+TEST(IncludeCheck, LetsTheViewersTestsAloneIncludeTheViewer)
+{
+    const std::string model = "#include \"vqview/model/Model.h\"";
+    EXPECT_THAT(includeStyleFaults({"Tests/unit/vqview/overlay/LabelsTest.cpp", {model}}), IsEmpty());
+    EXPECT_THAT(includeStyleFaults({"Tests/unit/VQDraw/draw/LineTest.cpp", {model}}), SizeIs(1));
+    EXPECT_THAT(includeStyleFaults({"Source/VQDraw/overlay/CVQText.cpp", {model}}), SizeIs(1));
+}
+
 TEST(IncludeCheck, AllowsThePictureLibrariesToTheCodecsOnly)
 {
     EXPECT_THAT(systemHeaderFaults({"Source/Platform/gdiplus/codecs/Png.cpp", {"#include <png.h>"}}), IsEmpty());
