@@ -15,7 +15,7 @@ constexpr float kGap = 14;       // from a key to what it does
 constexpr float kColumnGap = 32; // from one column to the next
 constexpr float kCorner = 10;
 constexpr float kShrink = 0.9F; // from one size of the font to the next
-constexpr float kSmallest = 0.65F;
+constexpr float kSmallest = 0.7F;
 
 /// Where the list's parts lie.
 struct KeyGrid
@@ -24,11 +24,8 @@ struct KeyGrid
     LONG rowHeight = 0;
     LONG columns = 1;
     LONG rows = 0; ///< a column
+    bool isWhole = false;
 
-    bool isWhole(const CSize& room, float scale) const
-    {
-        return rows * columns >= static_cast<LONG>(kKeyRows.size()) && width(scale) <= room.cx;
-    }
     LONG width(float scale) const
     {
         const LONG column = keyWidth + pixels(kGap, scale) + effectWidth;
@@ -65,8 +62,19 @@ KeyGrid gridFor(const CSize& room, const KeyStyles& styles, float scale)
     if (grid.width(scale) > room.cx)
         grid.columns = 1;
     grid.rows = std::clamp<LONG>(fitting, 0, (kCount + grid.columns - 1) / grid.columns);
-    grid.effectWidth -= std::max<LONG>(grid.width(scale) - room.cx, 0);
+    const LONG excess = std::max<LONG>(grid.width(scale) - room.cx, 0);
+    grid.effectWidth -= excess;
+    grid.isWhole = excess == 0 && grid.rows * grid.columns >= kCount;
     return grid;
+}
+
+/// The largest at which the whole list fits; the given one where it never does.
+float fontScaleFor(const CSize& room, float scale)
+{
+    for (float smaller = scale; smaller > scale * kSmallest; smaller *= kShrink)
+        if (gridFor(room, stylesOf(smaller), scale).isWhole)
+            return smaller;
+    return scale;
 }
 
 void drawRow(CVQDIB& image, const KeyStyles& styles, const KeyGrid& grid, const KeyRow& row, CPoint at, float scale)
@@ -103,13 +111,8 @@ CRect drawKeys(CVQDIB& image, float scale)
 {
     const LONG margin = pixels(kMargin, scale);
     const CSize room(image.GetWidth() - 2 * margin, image.GetHeight() - noticeRows(scale) - margin);
-    KeyStyles styles = stylesOf(scale);
-    KeyGrid grid = gridFor(room, styles, scale);
-    for (float smaller = scale * kShrink; !grid.isWhole(room, scale) && smaller > scale * kSmallest;
-         smaller *= kShrink) {
-        styles = stylesOf(smaller);
-        grid = gridFor(room, styles, scale);
-    }
+    const KeyStyles styles = stylesOf(fontScaleFor(room, scale));
+    const KeyGrid grid = gridFor(room, styles, scale);
     if (grid.rows < 1 || grid.effectWidth < grid.rowHeight)
         return {};
     const CSize size(grid.width(scale), grid.height(scale));

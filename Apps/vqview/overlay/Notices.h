@@ -47,8 +47,8 @@ CRect drawStatus(CVQDIB& image, const std::string& text, float scale);
 /// One line at the centre of the row above the status line.
 CRect drawNotice(CVQDIB& image, const std::string& text, float scale);
 /// The list of keys in the middle of the image, above the rows of status and notice: in two columns, or one where two
-/// do not fit. In a small image its font is smaller, down to two thirds; what then still does not fit is left out from
-/// the end. It covers a report.
+/// do not fit. The font is smaller where the whole list fits then, though by no more than three tenths; otherwise what
+/// does not fit is left out from the end. It would lie over a report, which is better not drawn meanwhile.
 CRect drawKeys(CVQDIB& image, float scale);
 /// @}
 

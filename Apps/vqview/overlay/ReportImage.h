@@ -34,7 +34,7 @@ std::vector<std::string> factsOf(const Model& model, std::size_t selectedCount);
 /// The rows of `drawStatus` and `drawNotice` at the bottom stay free. What does not fit is left out, in this order: the
 /// legend below the colour bar, the histogram, the facts, the colour bar, the title. Nothing overlaps.
 ///
-/// @param scale pixels that a unit of text and lines takes: 1, 1.25, 2 ...
+/// @param scale pixels that a unit of text and lines takes, above 0: 1, 1.25, 2 ...
 void drawReport(CVQDIB& image, const ReportContent& content, float scale);
 
 } // namespace vqview

@@ -105,34 +105,64 @@ private:
         return y <= m_room.bottom;
     }
 
+    /// How high the parts of the chart are; half a line of the numbers stands out of the plot at both ends.
+    struct ChartHeights
+    {
+        LONG edge, heading, half, legend, above, below;
+    };
+
+    ChartHeights chartHeights(const Level& level) const
+    {
+        ChartHeights heights{};
+        heights.edge = px(kPadding) - px(kRowGap);
+        heights.heading = m_texts.headingStyle.lineHeight();
+        heights.half = m_texts.axisStyle.lineHeight() / 2;
+        heights.above = heights.edge + heights.heading + px(kRowGap) + heights.half;
+        heights.below = heights.half + heights.edge;
+        if (level.legend) {
+            heights.legend = heightOf(m_texts.legend.size(), m_texts.factStyle, m_scale);
+            heights.below += px(kPartGap) + heights.legend;
+        }
+        return heights;
+    }
+
+    /// Whole bins, and at least one; 0 where even the lowest plot does not fit.
+    LONG plotHeight(LONG room, LONG binHeight) const
+    {
+        const LONG wanted = static_cast<LONG>(static_cast<float>(m_room.Height()) * kPlotShare);
+        const LONG bins = std::min(room, std::clamp(wanted, px(kLowestPlot), px(kHighestPlot))) / binHeight;
+        const LONG least = std::max<LONG>(px(kLowestPlot) / binHeight, 1);
+        return bins < least ? 0 : bins * binHeight;
+    }
+
+    Ticks ticksAlong(LONG plot) const
+    {
+        const float apart = static_cast<float>(std::max<LONG>(m_texts.axisStyle.lineHeight(), 1)) * kTickLines;
+        const int most = static_cast<int>(static_cast<float>(plot) / apart) + 1;
+        return ticksOf(m_statistics.least, m_statistics.most, std::clamp(most, 2, kMostTicks));
+    }
+
     bool composeChart(const Level& level, ReportLayout& layout) const
     {
-        const LONG half = m_texts.axisStyle.lineHeight() / 2;
-        const LONG headingHeight = m_texts.headingStyle.lineHeight();
-        const LONG legendHeight = level.legend ? heightOf(m_texts.legend.size(), m_texts.factStyle, m_scale) : 0;
-        const LONG above = px(kPadding) - px(kRowGap) + headingHeight + half + px(kRowGap);
-        const LONG below = (level.legend ? half + px(kPartGap) + legendHeight : half) + px(kPadding) - px(kRowGap);
-        const LONG plotRoom = m_room.Height() - above - below;
+        const ChartHeights heights = chartHeights(level);
         layout.binHeight = std::max<LONG>(px(kBin), 2);
-        const LONG plot =
-            std::min(plotRoom, std::clamp(static_cast<LONG>(static_cast<float>(m_room.Height()) * kPlotShare),
-                                          px(kLowestPlot), px(kHighestPlot))) /
-            layout.binHeight * layout.binHeight;
-        if (plot < px(kLowestPlot) - layout.binHeight)
+        const LONG plot = plotHeight(m_room.Height() - heights.above - heights.below, layout.binHeight);
+        if (plot == 0)
             return false;
-        const float ticks = static_cast<float>(plot) / (static_cast<float>(2 * half) * kTickLines);
-        layout.ticks =
-            ticksOf(m_statistics.least, m_statistics.most, std::clamp(static_cast<int>(ticks) + 1, 2, kMostTicks));
-        const LONG top = m_room.top + above;
-        if (!placeColumns(level, top, top + plot, layout))
+        layout.ticks = ticksAlong(plot);
+        const LONG top = m_room.top + heights.above;
+        const LONG bottom = top + plot;
+        if (!placeColumns(level, top, bottom, layout))
             return false;
         layout.chart.top = m_room.top;
-        layout.chart.bottom = top + plot + below;
-        const LONG headingTop = m_room.top + px(kPadding) - px(kRowGap);
-        layout.heading = {layout.axis.left, headingTop, layout.chart.right - px(kPadding), headingTop + headingHeight};
+        layout.chart.bottom = bottom + heights.below;
+        const LONG left = layout.axis.left;
+        const LONG right = layout.chart.right - px(kPadding);
+        const LONG headingTop = m_room.top + heights.edge;
+        const LONG legendTop = bottom + heights.half + px(kPartGap);
+        layout.heading = {left, headingTop, right, headingTop + heights.heading};
         if (level.legend)
-            layout.legend = {layout.axis.left, top + plot + half + px(kPartGap), layout.chart.right - px(kPadding),
-                             top + plot + half + px(kPartGap) + legendHeight};
+            layout.legend = {left, legendTop, right, legendTop + heights.legend};
         return true;
     }
 

@@ -188,7 +188,7 @@ TEST_F(ReportImage, IsDrawnIntoImagesOfAnySize)
 {
     const std::vector<float> values{0, 1};
     content.values = values;
-    for (const float scale : {0.5F, 1.0F, 3.0F})
+    for (const float scale : {0.001F, 0.5F, 1.0F, 3.0F})
         for (const int size : {1, 2, 17, 100, 199}) {
             Canvas small(size, size);
             drawReport(small, content, scale);
