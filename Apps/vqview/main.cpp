@@ -24,7 +24,7 @@ int main(int argc, char** argv)
     }
     if (!line.offScreenFolder.empty())
         return vqview::runOffScreen({line.model, line.script, line.offScreenFolder, line.width, line.height});
-    CVQDrawProperty::ReadPreferenceFromFile();
+    CVQDrawProperty::ReadPreferenceFromFile(CVQDrawProperty::GetDisplayFileFullPath(false)); // if there is one
     vqview::Session session;
     return vqview::showWindow(session, {line.width, line.height, line.model, line.echoes});
 }
