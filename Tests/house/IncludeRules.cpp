@@ -209,7 +209,8 @@ Faults includeStyleFaults(const SourceFile& file)
         const bool ofOffScreen =
             !file.isBelow("Source/") && include.isBelow(kOffScreen) && exists(kExamples, include.header);
         const bool ofViewer = file.isBelow(kViewerTests) && exists(kApps, include.header);
-        if (include.quoted && !ofProject && !ofFolder && !ofOffScreen && !ofViewer)
+        const bool ofExamples = file.isBelow(kApps) && include.isBelow("support/") && exists(kExamples, include.header);
+        if (include.quoted && !ofProject && !ofFolder && !ofOffScreen && !ofViewer && !ofExamples)
             faults.push_back(fault(file, include.line, include.header + " is not written from Source/"));
         if (!include.quoted && ofProject && file.isBelow("Source/"))
             faults.push_back(fault(file, include.line, include.header + " belongs in quotes"));

@@ -85,6 +85,13 @@ TEST(IncludeCheck, LetsTheViewersTestsAloneIncludeTheViewer)
     EXPECT_THAT(includeStyleFaults({"Source/VQDraw/overlay/CVQText.cpp", {model}}), SizeIs(1));
 }
 
+TEST(IncludeCheck, LetsTheViewerUseWhatExamplesShare)
+{
+    const std::string gallery = "#include \"support/Gallery.h\"";
+    EXPECT_THAT(includeStyleFaults({"Apps/vqview/main.cpp", {gallery}}), IsEmpty());
+    EXPECT_THAT(includeStyleFaults({"Apps/vqview/main.cpp", {"#include \"gallery/Sheet.h\""}}), SizeIs(1));
+}
+
 TEST(IncludeCheck, AllowsThePictureLibrariesToTheCodecsOnly)
 {
     EXPECT_THAT(systemHeaderFaults({"Source/Platform/gdiplus/codecs/Png.cpp", {"#include <png.h>"}}), IsEmpty());

@@ -29,8 +29,8 @@ public:
     void setModel(std::shared_ptr<const Model> model);
     /// Positions of the model, in ascending order; what is beyond its last is not drawn.
     void setSelected(const std::vector<std::uint32_t>& indices);
-    /// One colour a position, in which the surface is lit instead of that of `DPM_BODY`; none, or another number of them:
-    /// that again.
+    /// One colour a position, in which the surface is lit instead of that of `DPM_BODY`; none, or another number of
+    /// them: that again.
     void setColours(std::vector<CVQColor> colours);
 
     /// Draws a frame from the clearing on into the view's viewport; OpenGL's state is afterwards as it was.
