@@ -189,6 +189,39 @@ void addCount(std::size_t count, const Point3& centre, const Placing& placing)
         placing.add(text, *at, {}, 0);
 }
 
+/// A dark tag under bright text, a bright one under dark text.
+CVQColor tagColour(COLORREF text)
+{
+    constexpr int kAlpha = 150;
+    constexpr CVQColor kDark(24, 26, 30, kAlpha);
+    constexpr CVQColor kBright(250, 250, 250, kAlpha);
+    CVQColor ink;
+    ink.Set(text, false);
+    return brightnessOf(ink) < 0.5F ? kBright : kDark;
+}
+
+/// Tags below all labels: behind the eye too, where labels that others have added are drawn.
+void drawTags(CVQDIB& image, const TextStyle& style, const SVQGLVariables& view)
+{
+    const CVQColor colour = tagColour(style.colour);
+    const CVQText& labels = *CVQDrawingAPI::Text();
+    for (INT_PTR i = 0; i < labels.GetCount(); ++i) {
+        const SVQText& label = labels[i];
+        double x = 0;
+        double y = 0;
+        double depth = 0;
+        if (label.m_strText.IsEmpty() || gluProject(label.m_fX, label.m_fY, label.m_fZ, view.m_dModelView,
+                                                    view.m_dProjection, view.m_iViewport, &x, &y, &depth) != GL_TRUE)
+            continue;
+        const double top = view.m_iViewport[3] - y - 1;
+        const CSize size = CVQDIB::GetTextSize(style.font, label.m_strText);
+        if (!(x > -size.cx && x < image.GetWidth() && top > -size.cy && top < image.GetHeight()))
+            continue;
+        const CRect tag(CPoint(static_cast<LONG>(x), static_cast<LONG>(top)), size);
+        fillRounded(image, tag, size.cy / 4, Corners::All, {colour, colour});
+    }
+}
+
 } // namespace
 
 void addLabels(const LabelContent& content, const SVQGLVariables& view, float scale)
@@ -207,12 +240,13 @@ void drawLabels(CVQDIB& image, const SVQGLVariables& view, float scale, DragShap
     if (!CVQDrawingAPI::Text())
         return;
     TextStyle style = styleOf(DPF_MEASUREMENT_FONT, scale);
-    image.SetTextFont(style.font);
-    image.SetTextColor(style.colour, 255);
-    image.EnableTextShadow(true); // readable on any scan
     SVQGLVariables inImage = view;
     inImage.m_iViewport[0] = 0;
     inImage.m_iViewport[1] = 0;
+    drawTags(image, style, inImage);
+    image.SetTextFont(style.font);
+    image.SetTextColor(style.colour, 255);
+    image.EnableTextShadow(style.hasShadow);
     if (shapes == DragShapes::Drawn)
         CVQDrawingAPI::Draw(&image, 0, 0, inImage.m_dModelView, inImage.m_dProjection, inImage.m_iViewport);
     else

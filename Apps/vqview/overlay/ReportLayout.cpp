@@ -17,7 +17,8 @@ constexpr float kColumnGap = 16;  // from a label to its value
 constexpr float kUsualCard = 176; // at least, where there is room
 constexpr float kBar = 14;
 constexpr float kHistogram = 104;
-constexpr float kLongestHeading = 200; // that widens the box
+constexpr float kLongestTitle = 280; // that widen their boxes
+constexpr float kLongestHeading = 200;
 constexpr float kPartGap = 8;
 constexpr float kBin = 6;
 constexpr float kLowestPlot = 66;
@@ -85,7 +86,7 @@ private:
         const bool hasFacts = level.facts && !m_texts.facts.empty();
         if (!hasTitle && !hasFacts)
             return true;
-        const LONG titleWidth = hasTitle ? m_texts.titleStyle.widthOf(m_texts.title) : 0;
+        const LONG titleWidth = hasTitle ? std::min(m_texts.titleStyle.widthOf(m_texts.title), px(kLongestTitle)) : 0;
         const LONG factsWidth = hasFacts ? widestOf(m_texts.facts, m_texts.factStyle, m_scale) : 0;
         const LONG leastTitle = std::min(titleWidth, -m_texts.titleStyle.font.lfHeight * kTitleEms);
         const LONG room = right - m_room.left - 2 * px(kPadding);

@@ -29,7 +29,7 @@ struct VertexValueRow
 inline constexpr std::array<VertexValueRow, static_cast<std::size_t>(VertexValue::End)> kVertexValues{{
     {VertexValue::Height, "Height", VQ_UNIT_LENGTH},
     {VertexValue::Distance, "Distance from centre", VQ_UNIT_LENGTH},
-    {VertexValue::Curvature, "Curvature (1/mm)", VQ_UNIT_END},
+    {VertexValue::Curvature, "Curvature, 1/mm", VQ_UNIT_END},
 }};
 
 constexpr const VertexValueRow& rowOf(VertexValue value)

@@ -184,6 +184,24 @@ TEST_F(Labels, AreDrawnWithShapesThatAreSelectingIfWanted)
     box.Reset();
 }
 
+TEST_F(Labels, LieOnTagsThatContrastWithTheirColour)
+{
+    for (const bool isBright : {false, true}) {
+        CVQFont font = Store::GetFont(DPF_MEASUREMENT_FONT);
+        font.m_uiColor = isBright ? RGB(255, 255, 255) : RGB(0, 0, 0);
+        Store::SetFont(DPF_MEASUREMENT_FONT, font);
+        content.selectedCount = 1;
+        Canvas image(kWidth, kHeight);
+        addLabels(content, view, 1);
+        drawLabels(image, view, 1, DragShapes::LeftOut);
+        const CSize size = CVQDIB::GetTextSize(styleOf(DPF_MEASUREMENT_FONT, 1).font, L"1 point");
+        const LONG x = 400 - size.cx / 2 + 2; // in the margin before the first letter
+        EXPECT_GT(image.GetA(x, 300), 100);
+        EXPECT_EQ(image.GetG(x, 300) < 128, isBright);
+        EXPECT_EQ(image.GetA(x - 6, 300), 0);
+    }
+}
+
 TEST_F(Labels, TakeTheColourOfTheirFont)
 {
     CVQFont font = Store::GetFont(DPF_MEASUREMENT_FONT);
