@@ -206,7 +206,8 @@ Faults includeStyleFaults(const SourceFile& file)
         const bool ofFolder = !file.isBelow("Source/") && existsOnTheWayUp(file, include.header);
         const bool ofOffScreen =
             !file.isBelow("Source/") && include.isBelow(kOffScreen) && exists(kExamples, include.header);
-        if (include.quoted && !ofProject && !ofFolder && !ofOffScreen)
+        const bool ofApps = !file.isBelow("Source/") && exists("Apps", include.header);
+        if (include.quoted && !ofProject && !ofFolder && !ofOffScreen && !ofApps)
             faults.push_back(fault(file, include.line, include.header + " is not written from Source/"));
         if (!include.quoted && ofProject && file.isBelow("Source/"))
             faults.push_back(fault(file, include.line, include.header + " belongs in quotes"));
