@@ -23,7 +23,7 @@ endfunction()
 
 file(GLOB headers RELATIVE ${VQDRAW_SOURCE}
     ${VQDRAW_SOURCE}/VQDraw/*.h ${VQDRAW_SOURCE}/vqCommonBase/*.h
-    ${VQDRAW_SOURCE}/vqGeometry/*.h ${VQDRAW_SOURCE}/vqMessage/*.h)
+    ${VQDRAW_SOURCE}/vqGeometry/*.h ${VQDRAW_SOURCE}/vqMessage/*.h ${VQDRAW_SOURCE}/vqSelection/*.h)
 foreach(header IN LISTS headers)
     vq_install_header(${header})
 endforeach()

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-# What an installation holds besides the libraries: headers, a CMake package and a pkg-config file. It works from any folder.
+# What an installation holds besides the libraries: headers, a CMake package and pkg-config files. It works from any folder.
 include(CMakePackageConfigHelpers)
 
 set(package lib/cmake/VQDraw)
@@ -22,8 +22,10 @@ if(WIN32)
 else()
     set(not_installed "^$")
 endif()
-configure_file(${CMAKE_CURRENT_LIST_DIR}/vqdraw.pc.in ${PROJECT_BINARY_DIR}/vqdraw.pc @ONLY)
-install(FILES ${PROJECT_BINARY_DIR}/vqdraw.pc DESTINATION lib/pkgconfig)
+foreach(name vqdraw vqselection)
+    configure_file(${CMAKE_CURRENT_LIST_DIR}/${name}.pc.in ${PROJECT_BINARY_DIR}/${name}.pc @ONLY)
+    install(FILES ${PROJECT_BINARY_DIR}/${name}.pc DESTINATION lib/pkgconfig)
+endforeach()
 
 install(CODE "set(VQDRAW_SOURCE \"${PROJECT_SOURCE_DIR}/Source\")\nset(VQDRAW_NOT_INSTALLED \"${not_installed}\")")
 install(SCRIPT ${CMAKE_CURRENT_LIST_DIR}/InstallHeaders.cmake)

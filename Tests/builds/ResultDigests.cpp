@@ -4,7 +4,10 @@
 #include "support/Sha256.h"
 #include "unit/Platform/gdiplus/frames/MixedScene.h"
 #include "unit/VQDraw/reference/Operations.h"
+#include "vqSelection/VQSelection.h"
 
+#include <bit>
+#include <cmath>
 #include <cstdlib>
 #include <iostream>
 
@@ -29,6 +32,15 @@ public:
         for (const Number number : numbers)
             for (int shift = 0; shift < 32; shift += 8)
                 m_bytes.push_back(static_cast<std::uint8_t>(number >> shift));
+    }
+    template <typename Number64>
+    void add(const Number64* numbers, std::size_t count)
+    {
+        for (std::size_t i = 0; i < count; ++i) {
+            const auto bits = std::bit_cast<std::uint64_t>(numbers[i]);
+            for (int shift = 0; shift < 64; shift += 8)
+                m_bytes.push_back(static_cast<std::uint8_t>(bits >> shift));
+        }
     }
     void print(const std::string& name) const { std::cout << name << ' ' << sha256(m_bytes) << '\n'; }
 
@@ -138,6 +150,69 @@ void digestShapes()
     }
 }
 
+/// A perspective view that is a little different each time.
+SVQGLVariables someView(Dice& dice)
+{
+    const auto number = [&dice] { return dice.between(-100, 100) / 1000.0; };
+    SVQGLVariables view{};
+    for (double& element : view.m_dModelView)
+        element = number();
+    for (const int diagonal : {0, 5, 10, 15})
+        view.m_dModelView[diagonal] = 1;
+    view.m_dModelView[14] = -3;
+    view.m_dProjection[0] = 1.5 + number();
+    view.m_dProjection[5] = 1.5 + number();
+    view.m_dProjection[10] = -1.5;
+    view.m_dProjection[11] = -1;
+    view.m_dProjection[14] = -2.5;
+    view.m_iViewport[2] = dice.between(1, 300);
+    view.m_iViewport[3] = dice.between(1, 300);
+    return view;
+}
+
+CVQSelectionShape someShape(Dice& dice)
+{
+    const auto place = [&dice] { return dice.between(-1000, 4000) / 10.0; };
+    std::vector<double> vertices(static_cast<std::size_t>(dice.between(3, 100)) * 2);
+    std::ranges::generate(vertices, place);
+    switch (dice.below(4)) {
+    case 0:
+        return CVQSelectionShape::Box(place(), place(), place(), place());
+    case 1:
+        return CVQSelectionShape::Circle(150, 150, std::abs(place()));
+    case 2:
+        return CVQSelectionShape::Band(vertices[0], vertices[1], vertices[2], vertices[3], 30);
+    default:
+        return CVQSelectionShape::Polygon(vertices.data(), vertices.size() / 2);
+    }
+}
+
+/// Places of points on the screen, and which of them are selected.
+void digestSelection()
+{
+    Digest digest;
+    for (std::uint32_t seed = 0; seed < kTrials; ++seed) {
+        Dice dice(seed);
+        const SVQGLVariables variables = someView(dice);
+        std::vector<float> points(3 * 2000);
+        std::vector<float> depths(static_cast<std::size_t>(variables.m_iViewport[2] * variables.m_iViewport[3]));
+        for (float& coordinate : points)
+            coordinate = static_cast<float>(dice.between(-20000, 20000)) / 10000;
+        for (float& depth : depths)
+            depth = static_cast<float>(dice.between(0, 10000)) / 10000;
+        const auto view = SVQSelectionView::Of(variables, dice.oneIn(2) ? depths.data() : nullptr);
+        CVQSelectionSet set;
+        CVQSelection::Select(someShape(dice), view, {points.data(), points.size() / 3}, VQ_SELECT_REPLACE, set);
+        digest.add(set.GetWords(), set.GetWordCount());
+        for (std::size_t i = 0; i < points.size(); i += 3) {
+            std::array<double, 3> place{};
+            CVQSelection::Project(view, &points[i], place.data());
+            digest.add(place.data(), place.size());
+        }
+    }
+    digest.print("Selection");
+}
+
 } // namespace
 } // namespace vq::test
 
@@ -149,5 +224,6 @@ int main()
     vq::test::digestScaledTransfers();
     vq::test::digestShapes();
     vq::test::digestSceneParts();
+    vq::test::digestSelection();
     CVQDIB::ShutdownGDIPlus();
 }

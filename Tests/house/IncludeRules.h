@@ -6,7 +6,7 @@
 namespace vq::house {
 
 /// Headers of the project stand in quotes and are written from Source/ (in tests also from the test's folder or one
-/// above it); others in angles.
+/// above it, and from Apps/ outside the libraries); others in angles.
 Faults includeStyleFaults(const SourceFile& file);
 
 /// System headers where only the standard library may be used: everywhere but in the parts of Platform/ that are the

@@ -71,6 +71,38 @@ TEST(RoomsCheck, FindsAFileThatBelongsToNoRoom)
     EXPECT_THAT(arrowFaults({"Source/VQDraw/misc/Helpers.h", {}}), testing::SizeIs(1));
 }
 
+TEST(RoomsCheck, FindsTheSelectionInTheUmbrella)
+{
+    const SourceFile umbrella{"Source/VQDraw/VQDraw.h", {"#include \"vqSelection/VQSelection.h\""}};
+
+    EXPECT_THAT(arrowFaults(umbrella), testing::SizeIs(1));
+}
+
+TEST(RoomsCheck, FindsTheSelectionInsideTheLibrary)
+{
+    const SourceFile file{"Source/VQDraw/overlay/Drag.cpp", {"#include \"vqSelection/VQSelection.h\""}};
+
+    EXPECT_THAT(arrowFaults(file), testing::SizeIs(1));
+}
+
+TEST(RoomsCheck, LetsTheSelectionReachIntoItselfAndNoFurther)
+{
+    const SourceFile file{"Source/vqSelection/Select.cpp",
+                          {"#include \"vqSelection/points/Projection.h\"", "#include \"VQDraw/VQDragObject.h\"",
+                           "#include \"Platform/Export.h\"", "#include \"VQDraw/overlay/GLDrawing.h\""}};
+
+    EXPECT_THAT(outsiderFaults(file), ElementsAre(testing::StartsWith("Source/vqSelection/Select.cpp:4:")));
+}
+
+TEST(RoomsCheck, FindsAnApplicationThatReachesIntoTheSelection)
+{
+    const SourceFile file{"Apps/vqview/session/Select.cpp",
+                          {"#include <vqSelection/VQSelection.h>", "#include \"vqSelection/VQSelection.h\"",
+                           "#include \"vqSelection/points/Projection.h\"", "#include \"Platform/Export.h\""}};
+
+    EXPECT_THAT(outsiderFaults(file), testing::SizeIs(2));
+}
+
 TEST(RoomsCheck, FindsAnExampleThatReachesInside)
 {
     const SourceFile example{"Examples/lines/lines.cpp",

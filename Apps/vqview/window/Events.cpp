@@ -111,7 +111,10 @@ void Events::key(int key, int scanCode, int action, int)
     }
     if (action != GLFW_PRESS || ImGui::GetIO().WantCaptureKeyboard || isPopupOpen())
         return;
-    if (const auto known = keyOf(key, scanCode))
+    const auto known = keyOf(key, scanCode);
+    if (known == Key('Q') && m_held.control)
+        glfwSetWindowShouldClose(m_window, GLFW_TRUE);
+    else if (known)
         m_session.key(*known, m_held);
 }
 

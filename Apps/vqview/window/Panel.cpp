@@ -35,9 +35,10 @@ void save(Session& session)
 {
     const CString path = CVQDrawProperty::WritePreferenceToFile(kOfThisUser);
     if (path.IsEmpty())
-        session.say("The preferences could not be written");
-    else
-        session.say("Preferences saved: " + utf8Of(std::wstring_view(path)));
+        return session.say("The preferences could not be written");
+    std::string shown = utf8Of(std::wstring_view(path));
+    std::ranges::replace(shown, '\\', '/'); // the library's paths have either
+    session.say("Preferences saved: " + shown);
 }
 
 void drawFiles(Session& session, FilePrompt& prompt)

@@ -118,12 +118,10 @@ private:
     /// A monitor with another scale changes what fonts and the host's own drawing measure.
     void followWindow()
     {
-        const float former = m_scaleOfProcess;
         m_window.measure(m_layout);
-        m_scaleOfProcess = m_layout.scale;
-        if (m_scaleOfProcess == former)
+        if (CVQDisplayAPI::GetScaleFactor() == m_layout.scale)
             return;
-        CVQDisplayAPI::SetScaleFactor(m_scaleOfProcess);
+        CVQDisplayAPI::SetScaleFactor(m_layout.scale);
         followScreenResolution();
         m_session.preferencesChanged();
     }
@@ -153,7 +151,6 @@ private:
     FilePrompt m_prompt;
     Echo m_echo;
     bool m_showsPanel = false;
-    float m_scaleOfProcess = 0;
     int m_framesDue = kFramesAfterEvent;
 };
 

@@ -15,7 +15,8 @@ struct WindowOptions
     bool echo = false; ///< prints what the status line says and how the view is looked at, whenever that changes
 };
 
-/// Opens a window with an OpenGL context, a tool bar and a panel of preferences, and lets it live until it is closed.
+/// Opens a window with an OpenGL context, a tool bar and a panel of preferences, and lets it live until it is closed,
+/// by Ctrl+Q as well.
 ///
 /// The display's scale becomes the scale of the whole process (`CVQDisplayAPI`) and follows the window from monitor to
 /// monitor. With its context go all OpenGL objects, so that nothing may be drawn afterwards.

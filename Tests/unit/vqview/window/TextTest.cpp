@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#include "vqview/window/Text.h"
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using namespace vqview;
+
+TEST(WindowText, GoesToUtf8AndBack)
+{
+    EXPECT_EQ(utf8Of(std::wstring_view(L"\u00C4\u03A9\u20AC")), "\xC3\x84\xCE\xA9\xE2\x82\xAC");
+    EXPECT_EQ(wideOf("\xC3\x84\xCE\xA9\xE2\x82\xAC"), L"\u00C4\u03A9\u20AC");
+}
+
+TEST(WindowText, MayBeEmpty)
+{
+    EXPECT_EQ(utf8Of(std::wstring_view()), "");
+    EXPECT_EQ(wideOf(""), L"");
+}
+
+TEST(WindowText, NamesFilesBeyondAscii)
+{
+    EXPECT_EQ(utf8Of(pathOf("/scans/H\xC3\xBClle.obj")), "/scans/H\xC3\xBClle.obj");
+    EXPECT_STREQ(textOf(pathOf("H\xC3\xBClle.obj")).GetString(), L"H\u00FClle.obj");
+}
+
+} // namespace
