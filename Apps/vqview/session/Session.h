@@ -163,6 +163,7 @@ private:
     struct State;
 
     void selectionEnded();
+    void read(const std::filesystem::path& path);
 
     std::unique_ptr<State> m_state;
 };

@@ -1,9 +1,56 @@
 // SPDX-License-Identifier: MIT
 #include "vqview/session/Text.h"
 
+#include <type_traits>
 #include <vector>
 
 namespace vqview {
+
+namespace {
+
+/// The standard library's own conversions throw at what is no Unicode. They are needed nowhere: a path is wide where
+/// the system's paths are, and UTF-8 otherwise.
+constexpr bool kPathsAreWide = std::is_same_v<std::filesystem::path::value_type, wchar_t>;
+
+std::string narrow(const wchar_t* text)
+{
+    const int count = WideCharToMultiByte(CP_UTF8, 0, text, -1, nullptr, 0, nullptr, nullptr);
+    if (count <= 1)
+        return {};
+    std::string utf8(static_cast<std::size_t>(count), '\0');
+    WideCharToMultiByte(CP_UTF8, 0, text, -1, utf8.data(), count, nullptr, nullptr);
+    utf8.pop_back(); // the end mark
+    return utf8;
+}
+
+template <typename Native>
+CString wideOf(const Native& native)
+{
+    if constexpr (kPathsAreWide)
+        return CString(native.c_str());
+    else
+        return wide(std::string_view(native));
+}
+
+template <typename Native>
+std::string shownOf(const Native& native)
+{
+    if constexpr (kPathsAreWide)
+        return narrow(native.c_str());
+    else
+        return native;
+}
+
+template <typename Path>
+Path pathOfText(std::string_view utf8)
+{
+    if constexpr (kPathsAreWide)
+        return Path(std::wstring(static_cast<const wchar_t*>(wide(utf8))));
+    else
+        return Path(utf8);
+}
+
+} // namespace
 
 CString wide(std::string_view utf8)
 {
@@ -16,10 +63,19 @@ CString wide(std::string_view utf8)
     return CString(text.data());
 }
 
+CString wide(const std::filesystem::path& path)
+{
+    return wideOf(path.native());
+}
+
 std::string shown(const std::filesystem::path& path)
 {
-    const std::u8string text = path.u8string();
-    return {text.begin(), text.end()};
+    return shownOf(path.native());
+}
+
+std::filesystem::path pathOf(std::string_view utf8)
+{
+    return pathOfText<std::filesystem::path>(utf8);
 }
 
 std::string counted(std::size_t number)

@@ -12,14 +12,15 @@ namespace vqview {
 /// UTF-8 as the library takes text; what is no UTF-8 becomes replacement characters.
 CString wide(std::string_view utf8);
 
-/// A path as the library takes it.
-inline CString wide(const std::filesystem::path& path)
-{
-    return CString(path.wstring().c_str());
-}
-
-/// A path as it is shown, UTF-8.
+/// @name Paths, whatever bytes they are of: nothing is thrown
+/// @{
+/// As the library takes them.
+CString wide(const std::filesystem::path& path);
+/// As they are shown, UTF-8.
 std::string shown(const std::filesystem::path& path);
+/// From what was shown, or typed.
+std::filesystem::path pathOf(std::string_view utf8);
+/// @}
 
 /// 1234567 as "1,234,567".
 std::string counted(std::size_t number);
