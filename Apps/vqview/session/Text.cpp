@@ -12,17 +12,6 @@ namespace {
 /// the system's paths are, and UTF-8 otherwise.
 constexpr bool kPathsAreWide = std::is_same_v<std::filesystem::path::value_type, wchar_t>;
 
-std::string narrow(const wchar_t* text)
-{
-    const int count = WideCharToMultiByte(CP_UTF8, 0, text, -1, nullptr, 0, nullptr, nullptr);
-    if (count <= 1)
-        return {};
-    std::string utf8(static_cast<std::size_t>(count), '\0');
-    WideCharToMultiByte(CP_UTF8, 0, text, -1, utf8.data(), count, nullptr, nullptr);
-    utf8.pop_back(); // the end mark
-    return utf8;
-}
-
 template <typename Native>
 CString wideOf(const Native& native)
 {
@@ -35,10 +24,15 @@ CString wideOf(const Native& native)
 template <typename Native>
 std::string shownOf(const Native& native)
 {
-    if constexpr (kPathsAreWide)
-        return narrow(native.c_str());
-    else
+    if constexpr (kPathsAreWide) {
+        const int length = static_cast<int>(native.size());
+        const int count = WideCharToMultiByte(CP_UTF8, 0, native.data(), length, nullptr, 0, nullptr, nullptr);
+        std::string utf8(static_cast<std::size_t>(std::max(count, 0)), '\0');
+        WideCharToMultiByte(CP_UTF8, 0, native.data(), length, utf8.data(), count, nullptr, nullptr);
+        return utf8;
+    } else {
         return native;
+    }
 }
 
 template <typename Path>

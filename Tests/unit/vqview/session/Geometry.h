@@ -36,6 +36,10 @@ Area boxArea(CPoint corner, CPoint opposite);
 Area circleArea(CPoint centre, CPoint rim);
 Area polygonArea(std::vector<std::array<double, 2>> corners);
 Area polygonArea(const std::vector<CPoint>& corners);
+inline Area areaOf(const std::vector<CPoint>& corners)
+{
+    return polygonArea(corners);
+}
 Area bandArea(CPoint from, CPoint to, double halfWidth);
 
 struct Found

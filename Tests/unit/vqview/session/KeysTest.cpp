@@ -254,12 +254,14 @@ TEST_F(Keys, EveryKeyThatMeansSomethingIsInTheList)
     std::string listed;
     for (const KeyRow& row : kKeyRows)
         listed += std::string(" ") + row.key + " ";
-    for (char key = '0'; key <= 'Z'; ++key)
-        if ((key <= '9' || key >= 'A') && session.key(Key(key), {}))
-            EXPECT_NE(listed.find(std::string(" ") + key + std::string(key == 'F' ? "," : " ")), listed.npos) << key;
-    for (char key = 'A'; key <= 'Z'; ++key)
-        if (session.key(Key(key), kControl))
-            EXPECT_NE(listed.find(std::string("Ctrl+") + key), listed.npos) << key;
+    for (char key = '0'; key <= 'Z'; ++key) {
+        const bool isOne = key <= '9' || key >= 'A';
+        const std::string alone = std::string(" ") + key + (key == 'F' ? "," : " ");
+        const std::string held = std::string("Ctrl+") + key;
+        EXPECT_TRUE(!isOne || !session.key(Key(key), {}) || listed.find(alone) != listed.npos) << key;
+        EXPECT_TRUE(!isOne || key == '9' || !session.key(Key(key), kControl) || listed.find(held) != listed.npos)
+            << key;
+    }
 }
 
 TEST_F(Keys, WithoutAMeaningAreAnsweredSo)

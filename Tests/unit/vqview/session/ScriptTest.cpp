@@ -85,7 +85,7 @@ TEST_F(Script, HoldsKeysThatStandAtTheEndOfALine)
 TEST_F(Script, GoesRoundAnEllipse)
 {
     play("through on\ntool lasso\nellipse left 50% 50% 100 60 4");
-    EXPECT_EQ(session.selected(), inside(polygonArea({{420, 240}, {320, 300}, {220, 240}, {320, 180}})));
+    EXPECT_EQ(session.selected(), inside(areaOf({{420, 240}, {320, 300}, {220, 240}, {320, 180}})));
 }
 
 TEST_F(Script, ClicksAndTypes)
@@ -93,7 +93,7 @@ TEST_F(Script, ClicksAndTypes)
     EXPECT_THAT(play("through on\nkey p\nclick 223 131\nclick 451 173\nclick 10 10\nkey backspace\n"
                      "click 389 383\nkey enter"),
                 IsEmpty());
-    EXPECT_EQ(session.selected(), inside(polygonArea({{223, 131}, {451, 173}, {389, 383}})));
+    EXPECT_EQ(session.selected(), inside(areaOf({{223, 131}, {451, 173}, {389, 383}})));
     EXPECT_THAT(play("key a ctrl\ncount\nkey z ctrl\ncount\nkey escape\ncount"), IsEmpty());
     EXPECT_EQ(m_printed.front(), "selected " + std::to_string(bunny()->positions.size()));
     EXPECT_EQ(m_printed.back(), "selected 0");

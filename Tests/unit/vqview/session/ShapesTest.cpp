@@ -79,7 +79,7 @@ TEST_F(Shapes, AClickBesideTheFirstCornerIsAnotherCorner)
     click({223, 142}); // 11 pixels away
     EXPECT_TRUE(isDrawing());
     session.key(Key::Enter, {});
-    EXPECT_EQ(session.selected(), inside(polygonArea({{223, 131}, {451, 173}, {389, 383}, {223, 142}})));
+    EXPECT_EQ(session.selected(), inside(areaOf({{223, 131}, {451, 173}, {389, 383}, {223, 142}})));
 }
 
 TEST_F(Shapes, APolygonOfTwoCornersSelectsNothing)
