@@ -3,7 +3,6 @@
 
 #include "support/Gallery.h"
 #include "support/offscreen/OffScreenContext.h"
-#include "vqview/overlay/ViewImage.h"
 #include "vqview/session/Script.h"
 #include "vqview/session/Session.h"
 #include "vqview/session/Text.h"
@@ -74,12 +73,10 @@ std::string showScan(Session& session, const std::filesystem::path& file)
 bool keepPicture(Session& session, Gallery& gallery, const std::string& name, const std::string& caption, bool isReport)
 {
     CVQDIB picture(session.width(), session.height());
-    if (isReport) {
+    if (isReport)
         session.drawReportTo(picture);
-    } else {
-        session.draw();
-        copyFrame(picture, session.variables());
-    }
+    else
+        session.drawFrameTo(picture);
     return gallery.add(picture, name, caption);
 }
 

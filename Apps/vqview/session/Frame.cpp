@@ -157,6 +157,13 @@ void Session::draw()
     m_state->wantsFrame = false;
 }
 
+void Session::drawFrameTo(CVQDIB& image)
+{
+    draw();
+    copyFrame(image, variables());
+    m_state->wantsFrame = true;
+}
+
 void Session::drawTo(CVQDIB& image)
 {
     m_state->drawScene();
