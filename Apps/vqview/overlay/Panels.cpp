@@ -117,7 +117,7 @@ void fillRounded(CVQDIB& image, const CRect& box, LONG radius, Corners corners, 
     const Gdiplus::RectF edges(static_cast<float>(box.left) - 0.5F, static_cast<float>(box.top) - 0.5F,
                                static_cast<float>(box.Width()), static_cast<float>(box.Height()));
     Gdiplus::GraphicsPath path;
-    addRounded(path, edges, static_cast<float>(std::min({radius, box.Width() / 2, box.Height() / 2})), corners);
+    addRounded(path, edges, static_cast<float>(std::min<LONG>({radius, box.Width() / 2, box.Height() / 2})), corners);
     // A pixel more at both ends: there the brush begins anew.
     const Gdiplus::LinearGradientBrush brush(Gdiplus::PointF(0, edges.Y - 1),
                                              Gdiplus::PointF(0, edges.Y + edges.Height + 1), gdiColour(fill.top),
