@@ -51,4 +51,19 @@ TEST(AssimpModels, AreAllAnswered)
     EXPECT_GT(count, 500);
 }
 
+TEST(AssimpModels, HaveTheSameShapeInEveryKindOfFile)
+{
+    Progress progress;
+    const auto expected = readModel(fs::path(kCollection) / "OBJ/spider.obj", progress).model;
+    ASSERT_TRUE(expected);
+    for (const char* const name : {"STL/Spider_ascii.stl", "STL/Spider_binary.stl", "COB/spider_4_3.cob",
+                                   "COB/spider_6_6_ascii.cob", "FBX/spider.fbx", "MDC/spider.mdc"}) {
+        const auto model = readModel(fs::path(kCollection) / name, progress).model;
+        ASSERT_TRUE(model) << name;
+        EXPECT_EQ(model->positions.size(), expected->positions.size()) << name;
+        EXPECT_EQ(model->triangles.size(), expected->triangles.size()) << name;
+        EXPECT_EQ(model->edges.size(), expected->edges.size()) << name;
+    }
+}
+
 } // namespace
