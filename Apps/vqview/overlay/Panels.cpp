@@ -48,15 +48,6 @@ void addRounded(Gdiplus::GraphicsPath& path, const Gdiplus::RectF& box, float ra
 
 } // namespace
 
-CString wide(const std::string& utf8)
-{
-    const int bytes = static_cast<int>(utf8.size());
-    const int units = MultiByteToWideChar(CP_UTF8, 0, utf8.data(), bytes, nullptr, 0);
-    std::wstring text(static_cast<std::size_t>(std::max(units, 0)), L'\0');
-    MultiByteToWideChar(CP_UTF8, 0, utf8.data(), bytes, text.data(), units);
-    return {text.data(), units};
-}
-
 LONG pixels(float units, float scale)
 {
     return static_cast<LONG>(std::lround(units * scale));

@@ -2,7 +2,7 @@
 #include "vqview/session/Session.h"
 
 #include "vqview/session/State.h"
-#include "vqview/session/Text.h"
+#include "vqview/text/Text.h"
 
 #include <array>
 
@@ -318,16 +318,16 @@ bool Session::savePicture(const std::filesystem::path& path)
 {
     CVQDIB picture(1, 1);
     drawTo(picture);
-    const bool isSaved = picture.Save(wide(path));
-    say(isSaved ? "Saved " + vqview::shown(path) : vqview::shown(path) + " cannot be written");
+    const bool isSaved = picture.Save(textOfPath(path));
+    say(isSaved ? "Saved " + utf8Of(path) : utf8Of(path) + " cannot be written");
     return isSaved;
 }
 
 bool Session::saveReport(const std::filesystem::path& path)
 {
     drawReportTo(m_state->report);
-    const bool isSaved = m_state->report.Save(wide(path));
-    say(isSaved ? "Saved " + vqview::shown(path) : vqview::shown(path) + " cannot be written");
+    const bool isSaved = m_state->report.Save(textOfPath(path));
+    say(isSaved ? "Saved " + utf8Of(path) : utf8Of(path) + " cannot be written");
     return isSaved;
 }
 
@@ -336,11 +336,11 @@ bool Session::saveDocument(const std::filesystem::path& path)
     State& state = *m_state;
     Document document;
     drawReportTo(document.report);
-    document.scan = vqview::shown(state.modelPath);
+    document.scan = utf8Of(state.modelPath);
     document.texture = state.texture;
     document.selection = state.selecting.set();
     const std::string failure = writeDocument(path, document);
-    say(failure.empty() ? "Saved " + vqview::shown(path) : failure);
+    say(failure.empty() ? "Saved " + utf8Of(path) : failure);
     return failure.empty();
 }
 
@@ -355,7 +355,7 @@ bool Session::openDocument(const std::filesystem::path& path)
     }
     state.report = document.report;
     state.texture = document.texture;
-    say("Opened " + vqview::shown(path));
+    say("Opened " + utf8Of(path));
     preferencesChanged();
     if (document.scan.empty())
         return true;

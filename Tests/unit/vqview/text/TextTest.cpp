@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "vqview/window/Text.h"
+#include "vqview/text/Text.h"
 
 #include <gmock/gmock.h>
 
@@ -22,7 +22,7 @@ TEST(WindowText, MayBeEmpty)
 TEST(WindowText, NamesFilesBeyondAscii)
 {
     EXPECT_EQ(utf8Of(pathOf("/scans/H\xC3\xBClle.obj")), "/scans/H\xC3\xBClle.obj");
-    EXPECT_STREQ(textOf(pathOf("H\xC3\xBClle.obj")).GetString(), L"H\u00FClle.obj");
+    EXPECT_STREQ(textOfPath(pathOf("H\xC3\xBClle.obj")).GetString(), L"H\u00FClle.obj");
 }
 
 } // namespace

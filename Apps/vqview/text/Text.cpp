@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "vqview/window/Text.h"
+#include "vqview/text/Text.h"
 
 #include <algorithm>
 #include <limits>
@@ -48,9 +48,22 @@ std::filesystem::path pathOf(std::string_view utf8)
     return std::u8string(utf8.begin(), utf8.end());
 }
 
-CString textOf(const std::filesystem::path& path)
+CString textOf(std::string_view utf8)
 {
-    return wideOf(utf8Of(path)).c_str();
+    return wideOf(utf8).c_str();
+}
+
+CString textOfPath(const std::filesystem::path& path)
+{
+    return textOf(utf8Of(path));
+}
+
+std::string counted(std::size_t number)
+{
+    std::string text = std::to_string(number);
+    for (std::size_t place = text.size(); place > 3;)
+        text.insert(place -= 3, 1, ',');
+    return text;
 }
 
 } // namespace vqview
