@@ -7,22 +7,30 @@ namespace {
 
 using namespace vqview;
 
-TEST(WindowText, GoesToUtf8AndBack)
+TEST(Text, GoesToUtf8AndBack)
 {
     EXPECT_EQ(utf8Of(std::wstring_view(L"\u00C4\u03A9\u20AC")), "\xC3\x84\xCE\xA9\xE2\x82\xAC");
     EXPECT_EQ(wideOf("\xC3\x84\xCE\xA9\xE2\x82\xAC"), L"\u00C4\u03A9\u20AC");
 }
 
-TEST(WindowText, MayBeEmpty)
+TEST(Text, MayBeEmpty)
 {
     EXPECT_EQ(utf8Of(std::wstring_view()), "");
     EXPECT_EQ(wideOf(""), L"");
 }
 
-TEST(WindowText, NamesFilesBeyondAscii)
+TEST(Text, NamesFilesBeyondAscii)
 {
     EXPECT_EQ(utf8Of(pathOf("/scans/H\xC3\xBClle.obj")), "/scans/H\xC3\xBClle.obj");
     EXPECT_STREQ(textOfPath(pathOf("H\xC3\xBClle.obj")).GetString(), L"H\u00FClle.obj");
+}
+
+TEST(Counted, HasACommaBeforeEveryThreeDigits)
+{
+    EXPECT_EQ(counted(0), "0");
+    EXPECT_EQ(counted(999), "999");
+    EXPECT_EQ(counted(1000), "1,000");
+    EXPECT_EQ(counted(1234567), "1,234,567");
 }
 
 } // namespace
