@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "vqview/CommandLine.h"
 
-#include "vqview/session/Text.h"
+#include "vqview/text/Text.h"
 
 #include <charconv>
 

@@ -26,5 +26,5 @@ int main(int argc, char** argv)
         return vqview::runOffScreen({line.model, line.script, line.offScreenFolder, line.width, line.height});
     CVQDrawProperty::ReadPreferenceFromFile(CVQDrawProperty::GetDisplayFileFullPath(false)); // if there is one
     vqview::Session session;
-    return vqview::showWindow(session, {line.width, line.height, line.model, line.echoes});
+    return vqview::showWindow(session, {line.width, line.height, line.model, line.script, line.echoes});
 }

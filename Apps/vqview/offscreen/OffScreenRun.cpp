@@ -3,11 +3,10 @@
 
 #include "support/Gallery.h"
 #include "support/offscreen/OffScreenContext.h"
-#include "vqview/overlay/ViewImage.h"
 #include "vqview/session/Script.h"
 #include "vqview/session/Session.h"
-#include "vqview/session/Text.h"
 #include "vqview/session/Waiting.h"
+#include "vqview/text/Text.h"
 
 #include <cstdio>
 #include <fstream>
@@ -66,12 +65,10 @@ private:
 bool keepPicture(Session& session, Gallery& gallery, const std::string& name, const std::string& caption, bool isReport)
 {
     CVQDIB picture(session.width(), session.height());
-    if (isReport) {
+    if (isReport)
         session.drawReportTo(picture);
-    } else {
-        session.draw();
-        copyFrame(picture, session.variables());
-    }
+    else
+        session.drawFrameTo(picture);
     return gallery.add(picture, name, caption);
 }
 
@@ -81,7 +78,7 @@ int runOffScreen(const OffScreenOptions& options)
 {
     const std::optional<std::string> script = textOf(options.script);
     if (!script)
-        return fail("there is no script '" + shown(options.script) + "'");
+        return fail("there is no script '" + utf8Of(options.script) + "'");
     Studio studio;
     if (const std::string failure = studio.setSize(options.width, options.height, 1); !failure.empty())
         return fail(failure);
@@ -100,8 +97,8 @@ int runOffScreen(const OffScreenOptions& options)
     };
     const std::vector<std::string> faults = runScript(*script, stage);
     for (const std::string& fault : faults)
-        fail(shown(options.script.filename()) + ", " + fault);
-    const bool isWritten = gallery.finish() || fail("cannot write to '" + shown(options.folder) + "'") == 0;
+        fail(utf8Of(options.script.filename()) + ", " + fault);
+    const bool isWritten = gallery.finish() || fail("cannot write to '" + utf8Of(options.folder) + "'") == 0;
     return faults.empty() && isWritten ? 0 : 1;
 }
 

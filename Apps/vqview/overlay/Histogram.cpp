@@ -129,4 +129,24 @@ Ticks ticksOf(double least, double most, int atMost)
     return ticks;
 }
 
+Statistics withoutTails(std::span<const float> values, const Statistics& all)
+{
+    constexpr std::size_t kParts = 4096;
+    constexpr double kWorthShowing = 0.25;
+    const std::vector<std::size_t> parts = histogramOf(values, {}, all, kParts).all;
+    const std::size_t tail = all.count / 100;
+    std::size_t first = 0, last = kParts - 1;
+    for (std::size_t passed = parts[first]; first < last && passed <= tail;)
+        passed += parts[++first];
+    for (std::size_t passed = parts[last]; last > first && passed <= tail;)
+        passed += parts[--last];
+    const double part = (all.most - all.least) / kParts;
+    Statistics middle = all;
+    middle.least = all.least + part * static_cast<double>(first);
+    middle.most = all.least + part * static_cast<double>(last + 1);
+    const bool isNarrow = middle.most - middle.least < kWorthShowing * (all.most - all.least);
+    const bool holdsMean = all.mean >= middle.least && all.mean <= middle.most;
+    return isNarrow && holdsMean ? middle : all;
+}
+
 } // namespace vqview

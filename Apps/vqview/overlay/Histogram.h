@@ -20,6 +20,10 @@ struct Statistics
 
 Statistics statisticsOf(std::span<const float> values);
 
+/// The range that is worth showing: all of it, unless a hundredth of the values at either end takes more than three
+/// quarters of it; then that of the others. Count and mean stay those of all.
+Statistics withoutTails(std::span<const float> values, const Statistics& all);
+
 /// How many values lie in each of equal parts of a range, the most in the last one.
 struct Histogram
 {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "vqview/overlay/Notices.h"
 #include "vqview/overlay/Panels.h"
+#include "vqview/text/Text.h"
 
 #include <algorithm>
 
@@ -53,8 +54,8 @@ KeyGrid gridFor(const CSize& room, const KeyStyles& styles, float scale)
     constexpr LONG kCount = static_cast<LONG>(kKeyRows.size());
     KeyGrid grid;
     for (const KeyRow& row : kKeyRows) {
-        grid.keyWidth = std::max(grid.keyWidth, styles.key.widthOf(wide(row.key)));
-        grid.effectWidth = std::max(grid.effectWidth, styles.effect.widthOf(wide(row.effect)));
+        grid.keyWidth = std::max(grid.keyWidth, styles.key.widthOf(textOf(row.key)));
+        grid.effectWidth = std::max(grid.effectWidth, styles.effect.widthOf(textOf(row.effect)));
     }
     grid.rowHeight = styles.key.lineHeight() + pixels(kRowGap, scale);
     const LONG fitting = (room.cy - 2 * pixels(kPadding, scale) + pixels(kRowGap, scale)) / grid.rowHeight;
@@ -80,8 +81,8 @@ float fontScaleFor(const CSize& room, float scale)
 void drawRow(CVQDIB& image, const KeyStyles& styles, const KeyGrid& grid, const KeyRow& row, CPoint at, float scale)
 {
     const LONG effect = at.x + grid.keyWidth + pixels(kGap, scale);
-    drawLine(image, styles.key, wide(row.key), at.x, at.x + grid.keyWidth, at.y);
-    drawLine(image, styles.effect, styles.effect.fitted(wide(row.effect), grid.effectWidth), effect,
+    drawLine(image, styles.key, textOf(row.key), at.x, at.x + grid.keyWidth, at.y);
+    drawLine(image, styles.effect, styles.effect.fitted(textOf(row.effect), grid.effectWidth), effect,
              effect + grid.effectWidth, at.y);
 }
 

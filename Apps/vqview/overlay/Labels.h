@@ -27,8 +27,8 @@ void addLabels(const LabelContent& content, const SVQGLVariables& view, float sc
 enum class DragShapes { Drawn, LeftOut };
 
 /// Draws the labels of `CVQDrawingAPI::Text()` into an image of the view's size, in `DPF_MEASUREMENT_FONT` and its
-/// colour, on tags that make them readable over any scan, and takes out those for one frame. With `DragShapes::Drawn` the shapes that are selecting are
-/// drawn as well. Font, colour and shadow of the image are changed.
+/// colour, on tags that make them readable over any scan, and takes out those for one frame. With `DragShapes::Drawn`
+/// the shapes that are selecting are drawn as well. Font, colour and shadow of the image are changed.
 void drawLabels(CVQDIB& image, const SVQGLVariables& view, float scale, DragShapes shapes);
 
 } // namespace vqview

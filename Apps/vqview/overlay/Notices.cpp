@@ -2,6 +2,7 @@
 #include "vqview/overlay/Notices.h"
 
 #include "vqview/overlay/Panels.h"
+#include "vqview/text/Text.h"
 
 #include <algorithm>
 
@@ -42,7 +43,7 @@ CRect drawBox(CVQDIB& image, const std::string& text, LONG bottom, Align align, 
     const TextStyle style = controlStyle(scale);
     const LONG padding = pixels(kPaddingX, scale);
     const LONG margin = pixels(kMargin, scale);
-    const CString line = style.fitted(wide(text), image.GetWidth() - 2 * (margin + padding));
+    const CString line = style.fitted(textOf(text), image.GetWidth() - 2 * (margin + padding));
     const LONG height = boxHeight(style, scale);
     if (line.IsEmpty() || bottom - height < 0 || bottom > image.GetHeight())
         return {};

@@ -48,15 +48,6 @@ void addRounded(Gdiplus::GraphicsPath& path, const Gdiplus::RectF& box, float ra
 
 } // namespace
 
-CString wide(const std::string& utf8)
-{
-    const int bytes = static_cast<int>(utf8.size());
-    const int units = MultiByteToWideChar(CP_UTF8, 0, utf8.data(), bytes, nullptr, 0);
-    std::wstring text(static_cast<std::size_t>(std::max(units, 0)), L'\0');
-    MultiByteToWideChar(CP_UTF8, 0, utf8.data(), bytes, text.data(), units);
-    return {text.data(), units};
-}
-
 LONG pixels(float units, float scale)
 {
     return static_cast<LONG>(std::lround(units * scale));
@@ -117,7 +108,7 @@ void fillRounded(CVQDIB& image, const CRect& box, LONG radius, Corners corners, 
     const Gdiplus::RectF edges(static_cast<float>(box.left) - 0.5F, static_cast<float>(box.top) - 0.5F,
                                static_cast<float>(box.Width()), static_cast<float>(box.Height()));
     Gdiplus::GraphicsPath path;
-    addRounded(path, edges, static_cast<float>(std::min({radius, box.Width() / 2, box.Height() / 2})), corners);
+    addRounded(path, edges, static_cast<float>(std::min<LONG>({radius, box.Width() / 2, box.Height() / 2})), corners);
     // A pixel more at both ends: there the brush begins anew.
     const Gdiplus::LinearGradientBrush brush(Gdiplus::PointF(0, edges.Y - 1),
                                              Gdiplus::PointF(0, edges.Y + edges.Height + 1), gdiColour(fill.top),

@@ -8,9 +8,6 @@
 
 namespace vqview {
 
-/// UTF-8 as the library takes text; bytes that are none become U+FFFD.
-CString wide(const std::string& utf8);
-
 /// A length in units, at 96 dots per inch, as whole pixels of an image that is drawn larger by `scale`.
 LONG pixels(float units, float scale);
 

@@ -213,7 +213,7 @@ std::size_t selectedCountOf(const ReportContent& content)
 
 void drawReport(CVQDIB& image, const ReportContent& content, float scale)
 {
-    const Statistics statistics = statisticsOf(content.values);
+    const Statistics statistics = withoutTails(content.values, statisticsOf(content.values));
     const ReportTexts texts = reportTexts(content, statistics, selectedCountOf(content), scale);
     const ReportLayout layout = layoutOf({image.GetWidth(), image.GetHeight()}, texts, statistics, scale);
     Histogram histogram;

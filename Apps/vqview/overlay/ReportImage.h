@@ -34,6 +34,9 @@ std::vector<std::string> factsOf(const Model& model, std::size_t selectedCount);
 /// The rows of `drawStatus` and `drawNotice` at the bottom stay free. What does not fit is left out, in this order: the
 /// legend below the colour bar, the histogram, the facts, the colour bar, the title. Nothing overlaps.
 ///
+/// Where a hundredth of the values at either end takes up most of their range, bar and histogram show that of the
+/// others.
+///
 /// @param scale pixels that a unit of text and lines takes, above 0: 1, 1.25, 2 ...
 void drawReport(CVQDIB& image, const ReportContent& content, float scale);
 

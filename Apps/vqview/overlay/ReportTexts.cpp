@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "vqview/model/Model.h"
 #include "vqview/overlay/ReportLayout.h"
+#include "vqview/text/Text.h"
 
 #include <algorithm>
 #include <cmath>
@@ -24,7 +25,7 @@ CString unitText(eVQUnit unit)
 
 CString headingOf(const ReportContent& content, int exponent)
 {
-    CString heading = wide(content.valueName);
+    CString heading = textOf(content.valueName);
     CString unit = unitText(content.unit);
     unit.Trim();
     if (exponent != 0) {
@@ -39,22 +40,14 @@ ReportTexts::Row factOf(const std::string& line)
 {
     const std::size_t tab = line.find('\t');
     if (tab == std::string::npos)
-        return {wide(line), CString()};
-    return {wide(line.substr(0, tab)), wide(line.substr(tab + 1))};
-}
-
-std::string utf8(const CString& text)
-{
-    const int bytes = WideCharToMultiByte(CP_UTF8, 0, text, text.GetLength(), nullptr, 0, nullptr, nullptr);
-    std::string result(static_cast<std::size_t>(std::max(bytes, 0)), '\0');
-    WideCharToMultiByte(CP_UTF8, 0, text, text.GetLength(), result.data(), bytes, nullptr, nullptr);
-    return result;
+        return {textOf(line), CString()};
+    return {textOf(line.substr(0, tab)), textOf(line.substr(tab + 1))};
 }
 
 std::string fact(std::string label, const CString& text)
 {
     label += '\t';
-    label += utf8(text);
+    label += utf8Of(std::wstring_view(text));
     return label;
 }
 
@@ -108,7 +101,7 @@ ReportTexts reportTexts(const ReportContent& content, const Statistics& statisti
                       styleOf(DPF_UI_CTRL_FONT, scale),
                       styleOf(DPF_COLORBAR_FONT, scale),
                       styleOf(DPF_COLORBAR_FONT, scale),
-                      wide(content.title),
+                      textOf(content.title),
                       {},
                       {},
                       {}};

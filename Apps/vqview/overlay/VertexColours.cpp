@@ -11,7 +11,7 @@ namespace vqview {
 
 void coloursOf(std::span<const float> values, std::vector<CVQColor>& colours)
 {
-    const Statistics statistics = statisticsOf(values);
+    const Statistics statistics = withoutTails(values, statisticsOf(values));
     colours.resize(values.size());
     std::ranges::transform(values, colours.begin(), [&](float value) {
         return rampColour(std::isfinite(value) ? static_cast<float>(statistics.placeOf(value)) : value - value);

@@ -8,7 +8,8 @@
 
 namespace vqview {
 
-/// The colours that the colour bar of a report shows for values: by their place between the least and the greatest.
+/// The colours that the colour bar of a report shows for values: by their place in its range, at its ends what is
+/// beyond.
 void coloursOf(std::span<const float> values, std::vector<CVQColor>& colours);
 
 } // namespace vqview

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "vqview/session/Document.h"
 
-#include "vqview/session/Text.h"
+#include "vqview/text/Text.h"
 
 #include <array>
 #include <functional>
@@ -126,13 +126,13 @@ std::string writeDocument(const std::filesystem::path& path, Document& document)
 {
     const std::string failure = guarded(
         [&] {
-            CVQFileArchive archive(wide(path), CVQFileArchive::store);
+            CVQFileArchive archive(textOfPath(path), CVQFileArchive::store);
             write(archive, document);
             archive.Close();
             return std::string();
         },
         "cannot be written");
-    return failure.empty() ? failure : shown(path.filename()) + " " + failure;
+    return failure.empty() ? failure : utf8Of(path.filename()) + " " + failure;
 }
 
 std::string readDocument(const std::filesystem::path& path, Document& document)
@@ -140,13 +140,13 @@ std::string readDocument(const std::filesystem::path& path, Document& document)
     PreferenceGuard guard;
     const std::string failure = guarded(
         [&] {
-            CVQFileArchive archive(wide(path), CVQFileArchive::load);
+            CVQFileArchive archive(textOfPath(path), CVQFileArchive::load);
             return read(archive, document);
         },
         "cannot be read to its end");
     if (failure.empty())
         guard.keep();
-    return failure.empty() ? failure : shown(path.filename()) + " " + failure;
+    return failure.empty() ? failure : utf8Of(path.filename()) + " " + failure;
 }
 
 } // namespace vqview

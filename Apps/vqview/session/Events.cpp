@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What a session makes of mouse and keys.
 #include "vqview/session/State.h"
-#include "vqview/session/Text.h"
+#include "vqview/text/Text.h"
 
 #include <array>
 

@@ -148,13 +148,20 @@ void Session::draw()
     m_state->drawShape();
     CVQDIB image(width(), height());
     image.EnableAntialias(true);
-    m_state->drawOverlay(image, m_state->shown.report, false);
+    m_state->drawOverlay(image, m_state->shown.report && !m_state->shown.keys, false); // these would lie over it
     drawStatus(image, statusLine(), m_state->scale);
     drawNotice(image, m_state->notice, m_state->scale);
     if (m_state->shown.keys)
         drawKeys(image, m_state->scale);
     drawOver(image, variables());
     m_state->wantsFrame = false;
+}
+
+void Session::drawFrameTo(CVQDIB& image)
+{
+    draw();
+    copyFrame(image, variables());
+    m_state->wantsFrame = true;
 }
 
 void Session::drawTo(CVQDIB& image)

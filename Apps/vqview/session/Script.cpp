@@ -2,8 +2,8 @@
 #include "vqview/session/Script.h"
 
 #include "vqview/session/Session.h"
-#include "vqview/session/Text.h"
 #include "vqview/session/Waiting.h"
+#include "vqview/text/Text.h"
 
 #include <array>
 #include <charconv>
@@ -310,7 +310,7 @@ void exchange(Line& line)
 void colour(Line& line)
 {
     const std::string_view name = line.word();
-    const int index = CVQDrawProperty::GetDPCEnumStringToEnumNo(wide(name));
+    const int index = CVQDrawProperty::GetDPCEnumStringToEnumNo(textOf(name));
     std::array<float, 4> rgba{0, 0, 0, 1};
     const std::size_t given = line.left() > 3 ? 4 : 3;
     for (std::size_t channel = 0; channel < given; ++channel)
@@ -328,7 +328,7 @@ void colour(Line& line)
 void length(Line& line)
 {
     const std::string_view name = line.word();
-    const int index = CVQDrawProperty::GetDPSEnumStringToEnumNo(wide(name));
+    const int index = CVQDrawProperty::GetDPSEnumStringToEnumNo(textOf(name));
     const double value = line.number();
     if (index < 0)
         line.fail("there is no size " + quoted(name));

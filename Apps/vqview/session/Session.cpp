@@ -2,7 +2,7 @@
 #include "vqview/session/Session.h"
 
 #include "vqview/session/State.h"
-#include "vqview/session/Text.h"
+#include "vqview/text/Text.h"
 
 #include <array>
 
@@ -322,8 +322,8 @@ bool Session::savePicture(const std::filesystem::path& path)
 {
     CVQDIB picture(1, 1);
     drawTo(picture);
-    const bool isSaved = picture.Save(wide(path));
-    say(isSaved ? "Saved " + vqview::shown(path) : vqview::shown(path) + " cannot be written");
+    const bool isSaved = picture.Save(textOfPath(path));
+    say(isSaved ? "Saved " + utf8Of(path) : utf8Of(path) + " cannot be written");
     return isSaved;
 }
 
@@ -331,10 +331,10 @@ bool Session::saveReport(const std::filesystem::path& path)
 {
     CVQDIB report(1, 1);
     drawReportTo(report);
-    const bool isSaved = report.Save(wide(path));
+    const bool isSaved = report.Save(textOfPath(path));
     if (isSaved)
         m_state->report = report;
-    say(isSaved ? "Saved " + vqview::shown(path) : vqview::shown(path) + " cannot be written");
+    say(isSaved ? "Saved " + utf8Of(path) : utf8Of(path) + " cannot be written");
     return isSaved;
 }
 
@@ -343,13 +343,13 @@ bool Session::saveDocument(const std::filesystem::path& path)
     State& state = *m_state;
     Document document;
     drawReportTo(document.report);
-    document.scan = vqview::shown(state.modelPath);
+    document.scan = utf8Of(state.modelPath);
     document.texture = state.texture;
     document.selection = state.selecting.set();
     const std::string failure = writeDocument(path, document);
     if (failure.empty())
         state.report = document.report;
-    say(failure.empty() ? "Saved " + vqview::shown(path) : failure);
+    say(failure.empty() ? "Saved " + utf8Of(path) : failure);
     return failure.empty();
 }
 
@@ -363,7 +363,7 @@ bool Session::openDocument(const std::filesystem::path& path)
     }
     state.report = document.report;
     state.texture = document.texture;
-    say("Opened " + vqview::shown(path));
+    say("Opened " + utf8Of(path));
     preferencesChanged();
     if (document.scan.empty())
         return true;

@@ -50,6 +50,9 @@ public:
     int height() const;
     /// Draws the whole frame with the current context.
     void draw();
+    /// The frame as `draw` makes it, into an image of its size. Of an image that memory is missing for it makes
+    /// nothing.
+    void drawFrameTo(CVQDIB& image);
     /// The frame as `draw` makes it, but for notice, status line and keys, into an image of its size. Of an image that
     /// memory is missing for it makes nothing.
     void drawTo(CVQDIB& image);

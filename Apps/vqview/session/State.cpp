@@ -2,7 +2,7 @@
 #include "vqview/session/State.h"
 
 #include "vqview/overlay/ViewImage.h"
-#include "vqview/session/Text.h"
+#include "vqview/text/Text.h"
 
 #include <algorithm>
 #include <cmath>

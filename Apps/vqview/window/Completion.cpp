@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "vqview/window/Completion.h"
 
-#include "vqview/window/Text.h"
+#include "vqview/text/Text.h"
 
 #include <algorithm>
 #include <system_error>

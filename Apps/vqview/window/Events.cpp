@@ -2,9 +2,9 @@
 #include "vqview/window/Events.h"
 
 #include "vqview/session/Session.h"
+#include "vqview/text/Text.h"
 #include "vqview/window/Keys.h"
 #include "vqview/window/Popups.h"
-#include "vqview/window/Text.h"
 
 #include <imgui.h>
 

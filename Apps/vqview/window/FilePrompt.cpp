@@ -2,9 +2,9 @@
 #include "vqview/window/FilePrompt.h"
 
 #include "vqview/session/Session.h"
+#include "vqview/text/Text.h"
 #include "vqview/window/Completion.h"
 #include "vqview/window/Popups.h"
-#include "vqview/window/Text.h"
 
 #include <imgui.h>
 #include <imgui_stdlib.h>
@@ -30,14 +30,14 @@ bool openScan(Session& session, const path& file)
 
 bool loadPreferences(Session& session, const path& file)
 {
-    const bool isRead = CVQDrawProperty::ReadPreferenceFromFile(textOf(file)) == 1;
+    const bool isRead = CVQDrawProperty::ReadPreferenceFromFile(textOfPath(file)) == 1;
     session.preferencesChanged();
     return isRead;
 }
 
 bool loadLegacyPreferences(Session& session, const path& file)
 {
-    const bool isRead = CVQDrawProperty::ReadPreferenceFromFileLegacy(textOf(file)) == 1;
+    const bool isRead = CVQDrawProperty::ReadPreferenceFromFileLegacy(textOfPath(file)) == 1;
     session.preferencesChanged();
     return isRead;
 }
@@ -48,7 +48,8 @@ class AnsweredDialog
 public:
     explicit AnsweredDialog(const path& file)
     {
-        vq::afx::setFileDialogProvider([answer = textOf(file)](const vq::afx::FileDialogRequest&) { return answer; });
+        vq::afx::setFileDialogProvider(
+            [answer = textOfPath(file)](const vq::afx::FileDialogRequest&) { return answer; });
     }
     ~AnsweredDialog() { vq::afx::setFileDialogProvider({}); }
     AnsweredDialog(const AnsweredDialog&) = delete;

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "vqview/window/FontPanel.h"
 
+#include "vqview/text/Text.h"
 #include "vqview/window/FontRecord.h"
 #include "vqview/window/Rows.h"
-#include "vqview/window/Text.h"
 
 #include <imgui.h>
 #include <imgui_stdlib.h>

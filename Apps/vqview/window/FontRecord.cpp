@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "vqview/window/FontRecord.h"
 
+#include "vqview/text/Text.h"
 #include "vqview/window/Colours.h"
-#include "vqview/window/Text.h"
 
 #include <cstdlib>
 

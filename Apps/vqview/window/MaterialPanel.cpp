@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "vqview/window/MaterialPanel.h"
 
+#include "vqview/text/Text.h"
 #include "vqview/window/FilePrompt.h"
 #include "vqview/window/MaterialFields.h"
 #include "vqview/window/Rows.h"
-#include "vqview/window/Text.h"
 
 #include <imgui.h>
 

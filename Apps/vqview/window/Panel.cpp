@@ -2,9 +2,9 @@
 #include "vqview/window/Panel.h"
 
 #include "vqview/session/Session.h"
+#include "vqview/text/Text.h"
 #include "vqview/window/FilePrompt.h"
 #include "vqview/window/Rows.h"
-#include "vqview/window/Text.h"
 
 #include <imgui.h>
 #include <imgui_stdlib.h>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "vqview/window/Tables.h"
 
+#include "vqview/text/Text.h"
 #include "vqview/window/Colours.h"
-#include "vqview/window/Text.h"
 
 #include <VQDraw/VQDraw.h>
 

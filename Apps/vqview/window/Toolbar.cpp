@@ -212,17 +212,19 @@ void drawFiles(Flow& flow, FilePrompt& prompt, bool hasModel)
     flow.gap();
 }
 
-void drawStatus(Session& session)
+/// At the centre of the window's lower edge, while a scan is read.
+void drawProgress(Session& session)
 {
-    if (session.isLoading()) {
-        ImGui::ProgressBar(static_cast<float>(session.progress()), {ImGui::GetFontSize() * 16, 0});
-        ImGui::SameLine();
-        if (ImGui::Button("Cancel"))
-            session.cancelLoading();
-        ImGui::SameLine();
-    }
-    ImGui::AlignTextToFramePadding();
-    ImGui::TextUnformatted(session.statusLine().c_str());
+    const ImVec2 display = ImGui::GetIO().DisplaySize;
+    ImGui::SetNextWindowPos({display.x / 2, display.y - ImGui::GetFontSize()}, ImGuiCond_Always, {0.5F, 1});
+    ImGui::Begin("##progress", nullptr,
+                 ImGuiWindowFlags_NoDecoration | ImGuiWindowFlags_AlwaysAutoResize | ImGuiWindowFlags_NoSavedSettings |
+                     ImGuiWindowFlags_NoFocusOnAppearing);
+    ImGui::ProgressBar(static_cast<float>(session.progress()), {ImGui::GetFontSize() * 16, 0});
+    ImGui::SameLine();
+    if (ImGui::Button("Cancel"))
+        session.cancelLoading();
+    ImGui::End();
 }
 
 } // namespace
@@ -242,9 +244,10 @@ void Toolbar::draw(Session& session, FilePrompt& prompt, bool& showsPanel)
     drawFiles(flow, prompt, session.model() != nullptr);
     if (flow.button("Preferences", "Colours, sizes, materials and fonts", chosen(showsPanel)))
         showsPanel = !showsPanel;
-    drawStatus(session);
     m_height = ImGui::GetCursorPosY() - ImGui::GetStyle().ItemSpacing.y + ImGui::GetStyle().WindowPadding.y;
     ImGui::End();
+    if (session.isLoading())
+        drawProgress(session);
 }
 
 } // namespace vqview

@@ -6,7 +6,7 @@ namespace vqview {
 class FilePrompt;
 class Session;
 
-/// Tools and actions, as many lines as they need, and below them the status line, or how far loading has come.
+/// Tools and actions, as many lines as they need, and how far reading a scan has come.
 class Toolbar
 {
 public:

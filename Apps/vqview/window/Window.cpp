@@ -8,6 +8,7 @@
 #include "vqview/window/FilePrompt.h"
 #include "vqview/window/FontRecord.h"
 #include "vqview/window/Panel.h"
+#include "vqview/window/Playing.h"
 #include "vqview/window/Style.h"
 #include "vqview/window/Toolbar.h"
 
@@ -17,6 +18,7 @@
 
 #include <cmath>
 #include <iostream>
+#include <utility>
 
 namespace vqview {
 
@@ -67,9 +69,9 @@ public:
 class Host
 {
 public:
-    Host(GlfwWindow& window, Session& session, bool echoes)
-        : m_window(window), m_session(session), m_echoes(echoes), m_events(window, m_layout, session),
-          m_interface(window.handle())
+    Host(GlfwWindow& window, Session& session, const WindowOptions& options)
+        : m_window(window), m_session(session), m_echoes(options.echo), m_script(options.script),
+          m_events(window, m_layout, session), m_interface(window.handle())
     {
     }
 
@@ -84,6 +86,8 @@ public:
                 m_framesDue = std::max(m_framesDue, 1);
             if (m_framesDue > 0 || m_session.wantsFrame())
                 drawFrame();
+            if (!m_script.empty() && m_framesDue == 0 && !m_session.isLoading())
+                playScript(m_session, std::exchange(m_script, {}));
         }
     }
 
@@ -142,6 +146,7 @@ private:
     GlfwWindow& m_window;
     Session& m_session;
     bool m_echoes;
+    std::filesystem::path m_script; // yet to be played
     Layout m_layout;
     Events m_events; // before the interface, which calls it
     Interface m_interface;
@@ -166,7 +171,7 @@ int showWindow(Session& session, const WindowOptions& options)
     }
     if (!options.model.empty())
         session.open(options.model);
-    Host(*window, session, options.echo).run();
+    Host(*window, session, options).run();
     session.releaseGraphics();
     return 0;
 }

@@ -12,6 +12,8 @@ struct WindowOptions
     int width = 1280; ///< in units of 1/96 inch, which are pixels where the display's scale is 1
     int height = 800;
     std::filesystem::path model; ///< read once the window is there; may be empty
+    /// Played once the scan is there; its pictures go to the current folder. The size of the view is the window's.
+    std::filesystem::path script;
     bool echo = false; ///< prints what the status line says and how the view is looked at, whenever that changes
 };
 

@@ -1,34 +1,21 @@
 // SPDX-License-Identifier: MIT
 // Counts in headers take no memory: small files with large ones are answered by a process that has little.
+#include "unit/vqview/model/ProcessLimits.h"
 #include "unit/vqview/model/ScanFiles.h"
 #include "vqview/model/ModelFile.h"
 
-#include <sys/resource.h>
-#include <unistd.h>
-
 #include <chrono>
-#include <fstream>
 
 namespace {
 
 using namespace vqview;
 using namespace vqview::test;
 
-/// What this process has mapped, in bytes: of a build with sanitizers it is terabytes.
-rlim_t mapped()
-{
-    std::ifstream file("/proc/self/statm");
-    rlim_t pages = 0;
-    file >> pages;
-    return pages * static_cast<rlim_t>(sysconf(_SC_PAGESIZE));
-}
-
 /// In a child, with 200 MB more than the program has.
 void readWithin200MB(const std::string& bytes)
 {
     const ScanFile file("thing.scan", bytes);
-    const rlimit limit{mapped() + 200'000'000, RLIM_INFINITY};
-    setrlimit(RLIMIT_AS, &limit);
+    allowMemory(200'000'000);
     Progress progress;
     const auto begin = std::chrono::steady_clock::now();
     const ReadOutcome outcome = readModel(file.path(), progress);

@@ -44,6 +44,39 @@ TEST(Statistics, OfNothingAreZero)
     }
 }
 
+TEST(Statistics, LeaveOutTailsThatTakeMostOfTheRange)
+{
+    std::vector<float> values(1000);
+    for (std::size_t i = 0; i < values.size(); ++i)
+        values[i] = static_cast<float>(i % 100) / 100; // 0 .. 0.99
+    values[0] = -50;
+    values[1] = 49;
+    const Statistics all = statisticsOf(values);
+
+    const Statistics shown = withoutTails(values, all);
+
+    EXPECT_NEAR(shown.least, 0, 0.05); // parts of 99 / 4096
+    EXPECT_NEAR(shown.most, 0.99, 0.05);
+    EXPECT_EQ(shown.count, all.count);
+    EXPECT_EQ(shown.mean, all.mean);
+}
+
+TEST(Statistics, KeepARangeThatIsFilled)
+{
+    std::vector<float> values(1000);
+    for (std::size_t i = 0; i < values.size(); ++i)
+        values[i] = static_cast<float>(i);
+
+    const Statistics shown = withoutTails(values, statisticsOf(values));
+
+    EXPECT_EQ(shown.least, 0);
+    EXPECT_EQ(shown.most, 999);
+    for (const std::vector<float>& few : {std::vector<float>{}, std::vector<float>{7}}) {
+        EXPECT_EQ(withoutTails(few, statisticsOf(few)).least, statisticsOf(few).least);
+        EXPECT_EQ(withoutTails(few, statisticsOf(few)).most, statisticsOf(few).most);
+    }
+}
+
 TEST(Statistics, KnowAValuesPlaceInTheRange)
 {
     const Statistics range{10, 30, 20, 2};

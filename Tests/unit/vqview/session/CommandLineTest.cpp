@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "vqview/CommandLine.h"
 
-#include "vqview/session/Text.h"
+#include "vqview/text/Text.h"
 
 #include <gmock/gmock.h>
 
@@ -38,7 +38,7 @@ TEST(CommandLine, TakesEveryOptionInAnyOrder)
 
 TEST(CommandLine, TakesNamesOfEveryScript)
 {
-    EXPECT_EQ(shown(commandLineOf({"\xC3\xBC.obj"}).model), "\xC3\xBC.obj");
+    EXPECT_EQ(utf8Of(commandLineOf({"\xC3\xBC.obj"}).model), "\xC3\xBC.obj");
     EXPECT_NO_THROW(commandLineOf({"\xFF.obj"}));
 }
 

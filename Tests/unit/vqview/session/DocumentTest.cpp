@@ -3,7 +3,7 @@
 #include "Stage.h"
 
 #include "vqview/session/Document.h"
-#include "vqview/session/Text.h"
+#include "vqview/text/Text.h"
 
 #include <cstring>
 
@@ -278,7 +278,7 @@ TEST_F(Documents, ThatNameThemselvesAsTheirScanComeToAnEnd)
 {
     Document document;
     fill(document);
-    document.scan = shown(path(L"self.vqd"));
+    document.scan = utf8Of(path(L"self.vqd"));
     ASSERT_EQ(writeDocument(path(L"self.vqd"), document), "");
     session.openDocument(path(L"self.vqd"));
     waitForScan();

@@ -4,7 +4,7 @@
 #include "Stage.h"
 
 #include "vqview/session/Script.h"
-#include "vqview/session/Text.h"
+#include "vqview/text/Text.h"
 
 namespace vqview::test {
 namespace {
@@ -165,7 +165,7 @@ TEST_F(Script, GoesOnAfterAnExpectationThatFails)
 TEST_F(Script, OpensAndSavesAndWaits)
 {
     vq::test::writeBytes(m_folder / L"four points.obj", "v 0 0 0\nv 1 0 0\nv 0 1 0\nv 1 1 0\nf 1 2 3\nf 2 4 3\n");
-    const std::string folder = shown(nativePath(m_folder));
+    const std::string folder = utf8Of(nativePath(m_folder));
     EXPECT_THAT(play("open " + folder + "/four points.obj\nkey a ctrl\nexpect 4\nsave " + folder +
                      "/a document.vqd\nkey escape\nopen " + folder + "/a document.vqd\nexpect 4\nwait"),
                 IsEmpty());
@@ -173,7 +173,7 @@ TEST_F(Script, OpensAndSavesAndWaits)
 
 TEST_F(Script, SaysWhenWhatItOpensCannotBeShown)
 {
-    const std::string folder = shown(nativePath(m_folder));
+    const std::string folder = utf8Of(nativePath(m_folder));
     EXPECT_THAT(play("count\nopen " + folder + "/nowhere.obj\ncount"), ElementsAre(HasSubstr("nowhere.obj")));
     EXPECT_THAT(play("open " + folder + "/nowhere.vqd\ncount"), ElementsAre(HasSubstr("nowhere.vqd")));
     EXPECT_THAT(play("save " + folder + "/nowhere/a.vqd\ncount"), ElementsAre(HasSubstr("a.vqd")));

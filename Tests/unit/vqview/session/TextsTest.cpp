@@ -3,7 +3,7 @@
 #include "Geometry.h"
 #include "Stage.h"
 
-#include "vqview/session/Text.h"
+#include "vqview/text/Text.h"
 
 #include <chrono>
 
@@ -195,30 +195,6 @@ TEST_F(Measuring, AnotherScanHasNoPicks)
     session.show(bunny());
     EXPECT_TRUE(session.picked().empty());
     session.draw();
-}
-
-TEST(Text, GroupsDigitsByThree)
-{
-    EXPECT_EQ(counted(0), "0");
-    EXPECT_EQ(counted(999), "999");
-    EXPECT_EQ(counted(1000), "1,000");
-    EXPECT_EQ(counted(1234567), "1,234,567");
-}
-
-TEST(Text, PathsComeBackFromWhatIsShownOfThem)
-{
-    const std::string name = "gr\xC3\xBC\xC3\x9F"
-                             "e-\xE2\x82\xAC.obj";
-    EXPECT_EQ(shown(pathOf(name)), name);
-    EXPECT_EQ(std::wstring(static_cast<const wchar_t*>(wide(pathOf(name)))), L"gr\u00FC\u00DFe-\u20AC.obj");
-}
-
-TEST(Text, WhatIsNoUnicodeThrowsNothing)
-{
-    const std::string broken = "scan-\xFF\xFE\xC3.obj";
-    EXPECT_NO_THROW(EXPECT_FALSE(shown(pathOf(broken)).empty()));
-    EXPECT_NO_THROW(EXPECT_FALSE(wide(pathOf(broken)).IsEmpty()));
-    EXPECT_NO_THROW(EXPECT_FALSE(wide(std::string_view(broken)).IsEmpty()));
 }
 
 } // namespace

@@ -43,6 +43,17 @@ TEST_F(SceneState, OpenGLIsAfterwardsAsItWas)
     EXPECT_EQ(vq::test::changes(before, vq::test::currentState()), "");
 }
 
+/// What would change each pixel that is drawn.
+void switchOnWhatShows()
+{
+    constexpr GLubyte kBlackTexel[4]{0, 0, 0, 255};
+    glTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA, 1, 1, 0, GL_RGBA, GL_UNSIGNED_BYTE, kBlackTexel);
+    glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_NEAREST);
+    for (const GLenum capability :
+         {GL_TEXTURE_2D, GL_FOG, GL_BLEND, GL_LINE_STIPPLE, GL_POLYGON_STIPPLE, GL_COLOR_MATERIAL, GL_LIGHT5})
+        glEnable(capability);
+}
+
 TEST_F(SceneState, APictureDoesNotDependOnWhatTheHostHasSet)
 {
     showSomething();
@@ -52,7 +63,7 @@ TEST_F(SceneState, APictureDoesNotDependOnWhatTheHostHasSet)
     scene->readDepth(pixelView, usualDepth);
 
     vq::test::makeStateUnusual();
-    glDisable(GL_SCISSOR_TEST);
+    switchOnWhatShows();
     scene->draw(pixelView, kAll.faces, kAll.edges, kAll.vertices, kAll.scale);
     std::vector<float> depth;
     scene->readDepth(pixelView, depth);

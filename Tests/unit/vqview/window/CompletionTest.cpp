@@ -2,7 +2,7 @@
 #include "vqview/window/Completion.h"
 
 #include "support/TemporaryFolder.h"
-#include "vqview/window/Text.h"
+#include "vqview/text/Text.h"
 
 #include <gmock/gmock.h>
 

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "vqview/window/Text.h"
+#include "vqview/text/Text.h"
 
 #include <algorithm>
 #include <limits>
+#include <type_traits>
 
 namespace vqview {
 
@@ -12,6 +13,27 @@ template <typename Text>
 int lengthOf(const Text& text)
 {
     return static_cast<int>(std::min<std::size_t>(text.size(), std::numeric_limits<int>::max() / 8));
+}
+
+/// The standard library's own conversions of paths throw at what is no Unicode: a path is taken as the system has it.
+constexpr bool kPathsAreWide = std::is_same_v<std::filesystem::path::value_type, wchar_t>;
+
+template <typename Native>
+std::string utf8OfNative(const Native& native)
+{
+    if constexpr (kPathsAreWide)
+        return utf8Of(std::wstring_view(native));
+    else
+        return native;
+}
+
+template <typename Path>
+Path pathOfUtf8(std::string_view utf8)
+{
+    if constexpr (kPathsAreWide)
+        return Path(wideOf(utf8));
+    else
+        return Path(utf8);
 }
 
 } // namespace
@@ -39,18 +61,30 @@ std::wstring wideOf(std::string_view utf8)
 
 std::string utf8Of(const std::filesystem::path& path)
 {
-    const std::u8string text = path.u8string();
-    return {text.begin(), text.end()};
+    return utf8OfNative(path.native());
 }
 
 std::filesystem::path pathOf(std::string_view utf8)
 {
-    return std::u8string(utf8.begin(), utf8.end());
+    return pathOfUtf8<std::filesystem::path>(utf8);
 }
 
-CString textOf(const std::filesystem::path& path)
+CString textOf(std::string_view utf8)
 {
-    return wideOf(utf8Of(path)).c_str();
+    return wideOf(utf8).c_str();
+}
+
+CString textOfPath(const std::filesystem::path& path)
+{
+    return textOf(utf8Of(path));
+}
+
+std::string counted(std::size_t number)
+{
+    std::string text = std::to_string(number);
+    for (std::size_t place = text.size(); place > 3;)
+        text.insert(place -= 3, 1, ',');
+    return text;
 }
 
 } // namespace vqview
