@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "support/Gallery.h"
 
+#include "support/WidePath.h"
+
 #include <algorithm>
 #include <fstream>
 #include <utility>
@@ -55,7 +57,7 @@ bool Gallery::add(CVQDIB& picture, const std::string& name, const std::string& c
     m_entries.push_back({file, caption});
     std::error_code error; // saving does not tell: a picture that was there before must not speak for this one
     std::filesystem::remove(m_folder / file, error);
-    return picture.Save((m_folder / file).wstring().c_str()) && isThere(m_folder / file);
+    return picture.Save(widePath(m_folder / file)) && isThere(m_folder / file);
 }
 
 bool Gallery::finish() const

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "support/Photograph.h"
 
+#include "support/WidePath.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -16,7 +18,7 @@ bool isBlank(CVQDIB& image)
 
 std::unique_ptr<CVQDIB> loadPhotograph(const std::filesystem::path& file, LONG longestSide)
 {
-    auto image = std::make_unique<CVQDIB>(CString(file.wstring().c_str()));
+    auto image = std::make_unique<CVQDIB>(widePath(file));
     if (!image->GetBitmap() || isBlank(*image))
         return nullptr;
     const LONG longest = std::max(image->GetWidth(), image->GetHeight());
