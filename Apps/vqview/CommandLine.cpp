@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "vqview/CommandLine.h"
 
+#include "vqview/text/Text.h"
+
 #include <charconv>
 
 namespace vqview {
@@ -8,11 +10,6 @@ namespace vqview {
 namespace {
 
 constexpr int kLargestSide = 16384;
-
-std::filesystem::path pathOf(std::string_view utf8)
-{
-    return std::filesystem::path(std::u8string(utf8.begin(), utf8.end()));
-}
 
 bool readSide(std::string_view text, int& side)
 {

@@ -34,19 +34,26 @@ bool write(const std::filesystem::path& file, std::string_view text)
     return static_cast<bool>(stream.flush());
 }
 
+bool isThere(const std::filesystem::path& file)
+{
+    std::error_code error;
+    return std::filesystem::exists(file, error);
+}
+
 } // namespace
 
 Gallery::Gallery(std::filesystem::path folder, std::string section, std::string title)
     : m_folder(std::move(folder)), m_section(std::move(section)), m_title(std::move(title))
 {
-    std::filesystem::create_directories(m_folder);
+    std::error_code error; // where there is no folder, nothing can be added to it
+    std::filesystem::create_directories(m_folder, error);
 }
 
 bool Gallery::add(CVQDIB& picture, const std::string& name, const std::string& caption)
 {
     const std::string file = m_section + "-" + name + ".png";
     m_entries.push_back({file, caption});
-    return picture.Save((m_folder / file).wstring().c_str()) && std::filesystem::exists(m_folder / file);
+    return picture.Save((m_folder / file).wstring().c_str()) && isThere(m_folder / file);
 }
 
 bool Gallery::finish() const

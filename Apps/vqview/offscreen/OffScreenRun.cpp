@@ -5,13 +5,13 @@
 #include "support/offscreen/OffScreenContext.h"
 #include "vqview/session/Script.h"
 #include "vqview/session/Session.h"
+#include "vqview/session/Waiting.h"
 #include "vqview/text/Text.h"
 
 #include <cstdio>
 #include <fstream>
 #include <iterator>
 #include <optional>
-#include <thread>
 
 namespace vqview {
 
@@ -27,6 +27,9 @@ int fail(const std::string& what)
 
 std::optional<std::string> textOf(const std::filesystem::path& file)
 {
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(file, error))
+        return std::nullopt;
     std::ifstream stream(file, std::ios::binary);
     if (!stream)
         return std::nullopt;
@@ -61,17 +64,6 @@ private:
     std::unique_ptr<Session> m_session; // goes first: it owns what is in the context
 };
 
-/// Shows the scan. @return empty, or why it cannot be shown.
-std::string showScan(Session& session, const std::filesystem::path& file)
-{
-    session.open(file);
-    while (session.isLoading()) {
-        std::this_thread::sleep_for(std::chrono::milliseconds(5));
-        session.poll();
-    }
-    return session.model() ? std::string() : session.notice();
-}
-
 bool keepPicture(Session& session, Gallery& gallery, const std::string& name, const std::string& caption, bool isReport)
 {
     CVQDIB picture(session.width(), session.height());
@@ -93,16 +85,13 @@ int runOffScreen(const OffScreenOptions& options)
     if (const std::string failure = studio.setSize(options.width, options.height, 1); !failure.empty())
         return fail(failure);
     if (!options.model.empty())
-        if (const std::string failure = showScan(studio.session(), options.model); !failure.empty())
+        if (const std::string failure = openAndWait(studio.session(), options.model); !failure.empty())
             return fail(failure);
 
     Gallery gallery(options.folder, "vqview", "vqview: the library at work on a scan");
     ScriptStage stage{
         studio.session(),
-        [&](int width, int height, float scale) {
-            if (const std::string failure = studio.setSize(width, height, scale); !failure.empty())
-                fail(failure);
-        },
+        [&](int width, int height, float scale) { return studio.setSize(width, height, scale); },
         [&](const std::string& name, const std::string& caption, bool isReport) {
             return keepPicture(studio.session(), gallery, name, caption, isReport);
         },

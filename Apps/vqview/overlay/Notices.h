@@ -17,23 +17,25 @@ struct KeyRow
 // clang-format off
 inline constexpr std::array kKeyRows{
     KeyRow{"Left drag",               "Turn the view"},
+    KeyRow{"Right drag",              "Turn the view with every tool"},
     KeyRow{"Middle or Shift+left",    "Move the view"},
     KeyRow{"Wheel",                   "Go to what is under the mouse"},
     KeyRow{"F, Enter",                "Fit the scan into the view"},
     KeyRow{"1  3  7  9",              "Front, right, top, opposite side"},
     KeyRow{"5",                       "Perspective or orthographic"},
-    KeyRow{"E  D",                    "Edges, points"},
-    KeyRow{"O",                       "Report"},
+    KeyRow{"E  D  T",                 "Edges, points, labels"},
+    KeyRow{"O  N",                    "Report, its next values"},
     KeyRow{"F12",                     "Save a picture"},
     KeyRow{"H",                       "These keys"},
     KeyRow{"B  C  L",                 "Select by box, circle, line"},
     KeyRow{"A  P",                    "Select by lasso, polygon"},
+    KeyRow{"Enter, right click",      "Close the polygon"},
     KeyRow{"Backspace",               "Take back the last corner"},
     KeyRow{"M  V",                    "Measure, look"},
     KeyRow{"X",                       "What is visible, or all through"},
     KeyRow{"Ctrl, Shift",             "Add, subtract"},
     KeyRow{"Ctrl+Z, Ctrl+Y",          "Undo, redo"},
-    KeyRow{"Ctrl+A",                  "Select all"},
+    KeyRow{"Ctrl+A, Ctrl+I",          "Select all, turn over"},
     KeyRow{"Escape",                  "Drop the shape, select nothing"},
 };
 // clang-format on

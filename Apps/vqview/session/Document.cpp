@@ -101,8 +101,8 @@ std::string read(CVQArchive& archive, Document& document)
     if (!readText(archive, document.scan))
         return "is damaged";
     readPreferences(&archive);
-    document.report.ReadFile(&archive);
-    document.texture.ReadFile(&archive);
+    if (!document.report.ReadFile(&archive) || !document.texture.ReadFile(&archive))
+        return "is damaged";
     document.selection.Read(&archive);
     return {};
 }

@@ -166,7 +166,9 @@ bool Session::key(Key key, Modifiers held)
     State& state = *m_state;
     hold(held);
     if (state.selecting.key(key, held)) {
-        selectionEnded();
+        if (key == Key::Enter)
+            selectionEnded();
+        state.changed();
         return true;
     }
     if (key == Key::F12)

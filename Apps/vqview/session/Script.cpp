@@ -2,6 +2,7 @@
 #include "vqview/session/Script.h"
 
 #include "vqview/session/Session.h"
+#include "vqview/session/Waiting.h"
 #include "vqview/text/Text.h"
 
 #include <array>
@@ -9,7 +10,6 @@
 #include <cmath>
 #include <numbers>
 #include <optional>
-#include <thread>
 
 namespace vqview {
 
@@ -22,14 +22,17 @@ std::string quoted(std::string_view word)
     return std::string(1, '\'').append(word).append(1, '\'');
 }
 
+/// What a line ends with.
+enum class Ending { HeldKeys, Text };
+
 /// A line that has been taken apart, while it is carried out. A reader that fails says so in `fault`.
 class Line
 {
 public:
-    Line(Words words, std::string_view text, ScriptStage& stage)
+    Line(Words words, std::string_view text, Ending ending, ScriptStage& stage)
         : m_words(std::move(words)), m_text(text), m_stage(stage)
     {
-        while (!m_words.empty() && takeModifier(m_words.back()))
+        while (ending == Ending::HeldKeys && takeModifier(m_words.back())) // the command is none
             m_words.pop_back();
     }
 
@@ -68,13 +71,21 @@ public:
         fail("there is no " + quoted(name));
         return rows[0].value;
     }
-    /// From the present word to the end of the line.
-    std::string rest() const
+    /// From the present word to the end of the line, which must not be empty.
+    std::string text()
+    {
+        if (left() == 0)
+            fail("something is missing at the end");
+        return rest();
+    }
+    /// The same, and may be empty.
+    std::string rest()
     {
         if (left() == 0)
             return {};
         const auto begin = static_cast<std::size_t>(m_words[m_next].data() - m_text.data());
         const auto end = static_cast<std::size_t>(m_words.back().data() - m_text.data()) + m_words.back().size();
+        m_next = m_words.size();
         return std::string(m_text.substr(begin, end - begin));
     }
 
@@ -93,9 +104,11 @@ private:
         const std::string_view digits = isPart ? word.substr(0, word.size() - 1) : word;
         double number = 0;
         const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
+        if (isPart)
+            number = number / 100 * *whole;
         if (error != std::errc() || end != digits.data() + digits.size() || !(std::abs(number) <= kLargest))
             fail(quoted(word) + " is no number");
-        return isPart ? number / 100 * *whole : number;
+        return fault().empty() ? number : 0;
     }
 
     Words m_words;
@@ -144,14 +157,6 @@ constexpr std::array<Named<bool Shown::*>, 6> kShown{{
 }};
 constexpr std::array<Named<bool>, 2> kSwitch{{{"on", true}, {"off", false}}};
 
-void waitForScan(Session& session)
-{
-    while (session.isLoading()) {
-        std::this_thread::sleep_for(std::chrono::milliseconds(5));
-        session.poll();
-    }
-}
-
 void size(Line& line)
 {
     constexpr double kLargestSide = 16384, kLargestScale = 16;
@@ -160,22 +165,20 @@ void size(Line& line)
     if (!isIn(width, 1, kLargestSide) || !isIn(height, 1, kLargestSide) || !isIn(scale, 0.25, kLargestScale))
         return line.fail("such a size is not possible");
     if (line.fault().empty() && line.stage().resize)
-        line.stage().resize(static_cast<int>(width), static_cast<int>(height), static_cast<float>(scale));
+        line.fail(line.stage().resize(static_cast<int>(width), static_cast<int>(height), static_cast<float>(scale)));
 }
 
 void open(Line& line)
 {
-    const std::string path = line.rest();
-    line.session().open(std::filesystem::path(std::u8string(path.begin(), path.end())));
-    waitForScan(line.session());
-    if (!line.session().model())
-        line.fail(line.session().notice());
+    const std::string path = line.text();
+    if (line.fault().empty())
+        line.fail(openAndWait(line.session(), pathOf(path)));
 }
 
 void save(Line& line)
 {
-    const std::string path = line.rest();
-    if (!line.session().saveDocument(std::filesystem::path(std::u8string(path.begin(), path.end()))))
+    const std::string path = line.text();
+    if (line.fault().empty() && !line.session().saveDocument(pathOf(path)))
         line.fail(line.session().notice());
 }
 
@@ -258,11 +261,17 @@ void wheel(Line& line)
         line.session().wheel(steps, at);
 }
 
+bool isLetterOrDigit(char character)
+{
+    return (character >= 'a' && character <= 'z') || (character >= 'A' && character <= 'Z') ||
+           (character >= '0' && character <= '9');
+}
+
 void key(Line& line)
 {
     const std::string_view name = line.left() > 0 ? line.word() : std::string_view();
     Key key{};
-    if (name.size() == 1)
+    if (name.size() == 1 && isLetterOrDigit(name[0]))
         key = Key(name[0] >= 'a' && name[0] <= 'z' ? name[0] - 'a' + 'A' : name[0]);
     for (const Named<Key>& row : kKeys)
         if (row.name == name)
@@ -306,6 +315,8 @@ void colour(Line& line)
     const std::size_t given = line.left() > 3 ? 4 : 3;
     for (std::size_t channel = 0; channel < given; ++channel)
         rgba[channel] = static_cast<float>(line.number());
+    if (std::ranges::any_of(rgba, [](float part) { return !(part >= 0 && part <= 1); }))
+        line.fail("colours are from 0 to 1");
     if (index < 0)
         line.fail("there is no colour " + quoted(name));
     if (!line.fault().empty())
@@ -351,13 +362,14 @@ struct Command
 {
     std::string_view name;
     void (*run)(Line&);
+    Ending ending = Ending::HeldKeys;
     bool failureEndsScript = true; // what cannot be understood does; what was only expected does not
 };
 
 constexpr std::array<Command, 24> kCommands{{
     {"size", size},
-    {"open", open},
-    {"save", save},
+    {"open", open, Ending::Text},
+    {"save", save, Ending::Text},
     {"tool", tool},
     {"press", press},
     {"move", move},
@@ -375,9 +387,9 @@ constexpr std::array<Command, 24> kCommands{{
     {"colour", colour},
     {"length", length},
     {"count", count},
-    {"expect", expect, false},
-    {"picture", [](Line& line) { keep(line, false); }},
-    {"report", [](Line& line) { keep(line, true); }},
+    {"expect", expect, Ending::HeldKeys, false},
+    {"picture", [](Line& line) { keep(line, false); }, Ending::Text},
+    {"report", [](Line& line) { keep(line, true); }, Ending::Text},
     {"wait", [](Line& line) { waitForScan(line.session()); }},
 }};
 
@@ -403,8 +415,10 @@ bool runLine(std::string_view text, ScriptStage& stage, std::string& fault)
     for (const Command& command : kCommands) {
         if (command.name != name)
             continue;
-        Line line(std::move(words), text.substr(0, text.find('#')), stage);
+        Line line(std::move(words), text.substr(0, text.find('#')), command.ending, stage);
         command.run(line);
+        if (line.left() > 0)
+            line.fail("there is too much at the end");
         fault = line.fault();
         return fault.empty() || !command.failureEndsScript;
     }

@@ -14,15 +14,16 @@ class Session;
 struct ScriptStage
 {
     Session& session;
-    /// Changes the size of the frame; null where it cannot be changed.
-    std::function<void(int width, int height, float scale)> resize;
+    /// Changes the size of the frame; null where it cannot be changed. @return empty, or what failed.
+    std::function<std::string(int width, int height, float scale)> resize;
     /// Keeps the frame, or the report, under a name. @return false when it cannot be written.
     std::function<bool(const std::string& name, const std::string& caption, bool isReport)> keep;
     std::function<void(const std::string& line)> print;
 };
 
 /// Mouse and keys as text, a command a line; `#` begins a comment. Coordinates are pixels, or parts of the frame's
-/// width and height: `50%`. `ctrl` and `shift` at the end of a line are held meanwhile.
+/// width and height: `50%`. `ctrl` and `shift` at the end of a line are held meanwhile, but for those lines that end
+/// with a path or a caption.
 ///
 /// | command | does |
 /// |---|---|
@@ -49,7 +50,7 @@ struct ScriptStage
 /// | `report NAME CAPTION` | keeps the report |
 ///
 /// @return what went wrong, each with the number of its line: empty when all went well. A line that is no command
-/// ends the script.
+/// or fails ends the script, but for `expect`.
 std::vector<std::string> runScript(std::string_view text, ScriptStage& stage);
 
 } // namespace vqview

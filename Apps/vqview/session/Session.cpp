@@ -116,10 +116,14 @@ void Session::poll(Clock::time_point now)
 
 void Session::open(const std::filesystem::path& path)
 {
-    if (path.extension() == ".vqd") {
+    if (path.extension() == ".vqd")
         openDocument(path);
-        return;
-    }
+    else
+        read(path);
+}
+
+void Session::read(const std::filesystem::path& path)
+{
     m_state->selectionToCome.reset();
     m_state->pathOfLoader = path;
     m_state->loader.start(path);
@@ -325,8 +329,11 @@ bool Session::savePicture(const std::filesystem::path& path)
 
 bool Session::saveReport(const std::filesystem::path& path)
 {
-    drawReportTo(m_state->report);
-    const bool isSaved = m_state->report.Save(textOfPath(path));
+    CVQDIB report(1, 1);
+    drawReportTo(report);
+    const bool isSaved = report.Save(textOfPath(path));
+    if (isSaved)
+        m_state->report = report;
     say(isSaved ? "Saved " + utf8Of(path) : utf8Of(path) + " cannot be written");
     return isSaved;
 }
@@ -340,6 +347,8 @@ bool Session::saveDocument(const std::filesystem::path& path)
     document.texture = state.texture;
     document.selection = state.selecting.set();
     const std::string failure = writeDocument(path, document);
+    if (failure.empty())
+        state.report = document.report;
     say(failure.empty() ? "Saved " + utf8Of(path) : failure);
     return failure.empty();
 }
@@ -348,8 +357,7 @@ bool Session::openDocument(const std::filesystem::path& path)
 {
     State& state = *m_state;
     Document document;
-    const std::string failure = readDocument(path, document);
-    if (!failure.empty()) {
+    if (const std::string failure = readDocument(path, document); !failure.empty()) {
         say(failure);
         return false;
     }
@@ -359,7 +367,7 @@ bool Session::openDocument(const std::filesystem::path& path)
     preferencesChanged();
     if (document.scan.empty())
         return true;
-    open(std::filesystem::path(std::u8string(document.scan.begin(), document.scan.end())));
+    read(pathOf(document.scan));
     state.selectionToCome = std::move(document.selection);
     return true;
 }

@@ -166,6 +166,7 @@ private:
     struct State;
 
     void selectionEnded();
+    void read(const std::filesystem::path& path);
 
     std::unique_ptr<State> m_state;
 };

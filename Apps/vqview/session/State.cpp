@@ -117,7 +117,9 @@ void Session::State::zoomTo(double steps, CPoint at)
 
 bool Session::State::pick(CPoint at)
 {
+    const bool wasThrough = std::exchange(throughAll, false); // what is hidden cannot be picked
     const std::int64_t nearest = model ? selecting.pointAt(at) : -1;
+    throughAll = wasThrough;
     if (nearest < 0)
         return false;
     picked.push_back(static_cast<std::uint32_t>(nearest));

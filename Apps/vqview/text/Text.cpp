@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <type_traits>
 
 namespace vqview {
 
@@ -12,6 +13,28 @@ template <typename Text>
 int lengthOf(const Text& text)
 {
     return static_cast<int>(std::min<std::size_t>(text.size(), std::numeric_limits<int>::max() / 8));
+}
+
+/// The standard library's own conversions throw at what is no Unicode. They are needed nowhere: a path is wide where
+/// the system's paths are, and UTF-8 otherwise.
+constexpr bool kPathsAreWide = std::is_same_v<std::filesystem::path::value_type, wchar_t>;
+
+template <typename Native>
+std::string utf8OfNative(const Native& native)
+{
+    if constexpr (kPathsAreWide)
+        return utf8Of(std::wstring_view(native));
+    else
+        return native;
+}
+
+template <typename Path>
+Path pathOfText(std::string_view utf8)
+{
+    if constexpr (kPathsAreWide)
+        return Path(wideOf(utf8));
+    else
+        return Path(utf8);
 }
 
 } // namespace
@@ -39,13 +62,12 @@ std::wstring wideOf(std::string_view utf8)
 
 std::string utf8Of(const std::filesystem::path& path)
 {
-    const std::u8string text = path.u8string();
-    return {text.begin(), text.end()};
+    return utf8OfNative(path.native());
 }
 
 std::filesystem::path pathOf(std::string_view utf8)
 {
-    return std::u8string(utf8.begin(), utf8.end());
+    return pathOfText<std::filesystem::path>(utf8);
 }
 
 CString textOf(std::string_view utf8)
