@@ -210,14 +210,14 @@ TEST(Text, PathsComeBackFromWhatIsShownOfThem)
     const std::string name = "gr\xC3\xBC\xC3\x9F"
                              "e-\xE2\x82\xAC.obj";
     EXPECT_EQ(utf8Of(pathOf(name)), name);
-    EXPECT_EQ(std::wstring(static_cast<const wchar_t*>(textOf(pathOf(name)))), L"gr\u00FC\u00DFe-\u20AC.obj");
+    EXPECT_EQ(std::wstring(static_cast<const wchar_t*>(textOfPath(pathOf(name)))), L"gr\u00FC\u00DFe-\u20AC.obj");
 }
 
 TEST(Text, WhatIsNoUnicodeThrowsNothing)
 {
     const std::string broken = "scan-\xFF\xFE\xC3.obj";
     EXPECT_NO_THROW(EXPECT_FALSE(utf8Of(pathOf(broken)).empty()));
-    EXPECT_NO_THROW(EXPECT_FALSE(textOf(pathOf(broken)).IsEmpty()));
+    EXPECT_NO_THROW(EXPECT_FALSE(textOfPath(pathOf(broken)).IsEmpty()));
     EXPECT_NO_THROW(EXPECT_FALSE(textOf(std::string_view(broken)).IsEmpty()));
 }
 
