@@ -85,12 +85,14 @@ private:
     std::optional<vq::OutlineGrid> m_beyond;
 };
 
-void dropHidden(const vq::DepthBuffer& depth, const vq::PointBlock& block, Bits& bits)
+void dropHidden(const vq::DepthBuffer& depth, const vq::PointBlock& block, std::size_t count, Bits& bits)
 {
+    std::array<double, vq::PointBlock::kSize> pixels;
+    depth.find(block.x, block.y, count, pixels.data());
     for (std::size_t word = 0; word < bits.size(); ++word)
         for (std::uint64_t rest = bits[word]; rest != 0; rest &= rest - 1) {
             const std::size_t i = word * kWordBits + static_cast<std::size_t>(std::countr_zero(rest));
-            if (!depth.shows(block.x[i], block.y[i], block.depth[i]))
+            if (!depth.shows(pixels[i], block.depth[i]))
                 bits[word] &= ~(rest & (~rest + 1));
         }
 }
@@ -132,7 +134,7 @@ struct Pass
             projection.project(points.m_pPoints + first * 3, count, block);
             mark(block, count, bits);
             if (view.m_pDepth)
-                dropHidden(depth, block, bits);
+                dropHidden(depth, block, count, bits);
             changed += store(bits, count, words + first / kWordBits);
         }
         return changed;

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 
 namespace vq {
 
@@ -19,30 +20,50 @@ public:
     {
     }
 
-    /// Whether a position on the screen, y downwards, lies in the viewport and nothing hides it at all of the pixels
-    /// around it.
-    bool shows(double x, double y, double depth) const
+    /// The pixels that positions on the screen, y downwards, are in: numbers of the buffer's rows one after the other,
+    /// or -1 outside. Apart from what follows, so that it becomes vectors and the buffer is read for many at a time.
+    void find(const double* x, const double* y, std::size_t count, double* pixels) const
     {
-        const double right = x - m_left;
-        const double up = m_bottom - y;
-        if (!(right >= 0 && right < m_width && up >= 0 && up < m_height))
+        const double left = m_left;
+        const double bottom = m_bottom;
+        const double width = m_width;
+        const double height = m_height;
+        for (std::size_t i = 0; i < count; ++i) {
+            const double right = x[i] - left;
+            const double up = bottom - y[i];
+            double column = right >= 0 ? right : kOutside; // one after the other: so the compiler makes vectors of it
+            column = right < width ? column : kOutside;
+            column = up >= 0 ? column : kOutside;
+            column = up < height ? column : kOutside;
+            const double row = column >= 0 ? up : 0.0;
+            const double pixel = static_cast<int>(row) * width + static_cast<int>(column);
+            pixels[i] = column >= 0 ? pixel : kOutside;
+        }
+    }
+
+    /// Whether a pixel is in the viewport and nothing hides a point there at all of the pixels around it.
+    bool shows(double pixel, double depth) const
+    {
+        if (pixel < 0)
             return false;
-        const auto column = static_cast<int>(right);
-        const auto row = static_cast<int>(up);
-        return isBefore(column, row, depth) || isBeforeNeighbour(column, row, depth);
+        const auto index = static_cast<std::int64_t>(pixel);
+        return isBefore(index, depth) || isBeforeNeighbour(index, depth);
     }
 
 private:
-    bool isBefore(int column, int row, double depth) const
-    {
-        return depth <= double{m_depths[std::ptrdiff_t{row} * m_width + column]} + m_tolerance;
-    }
+    static constexpr double kOutside = -1;
 
-    bool isBeforeNeighbour(int column, int row, double depth) const
+    bool isBefore(std::int64_t pixel, double depth) const { return depth <= double{m_depths[pixel]} + m_tolerance; }
+
+    bool isBeforeNeighbour(std::int64_t pixel, double depth) const
     {
-        for (auto y = std::max(row - 1, 0); y <= std::min(row + 1, m_height - 1); ++y)
-            for (auto x = std::max(column - 1, 0); x <= std::min(column + 1, m_width - 1); ++x)
-                if (isBefore(x, y, depth))
+        const std::int64_t column = pixel % m_width;
+        const std::int64_t row = pixel / m_width;
+        const std::int64_t lastColumn = std::min<std::int64_t>(column + 1, m_width - 1);
+        const std::int64_t lastRow = std::min<std::int64_t>(row + 1, m_height - 1);
+        for (auto y = std::max<std::int64_t>(row - 1, 0); y <= lastRow; ++y)
+            for (auto x = std::max<std::int64_t>(column - 1, 0); x <= lastColumn; ++x)
+                if (isBefore(y * m_width + x, depth))
                     return true;
         return false;
     }
