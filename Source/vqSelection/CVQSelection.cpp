@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <bit>
+#include <memory>
 #include <optional>
 
 namespace {
@@ -193,10 +194,10 @@ std::size_t CVQSelection::Select(const CVQSelectionShape& shape, const SVQSelect
     const int(&viewport)[4] = view.m_view.m_iViewport;
     const bool showsNothing = viewport[2] <= 0 || viewport[3] <= 0;
     const Kind kind = showsNothing ? Kind::Empty : shape.m_kind;
-    std::optional<PolygonLookup> polygon; // these before anything changes, since memory may be short
+    std::unique_ptr<const PolygonLookup> polygon; // these before anything changes, since memory may be short
     std::optional<Visibility> visibility;
     if (kind == Kind::Polygon)
-        polygon.emplace(shape.m_vertices, viewport, view.m_pDepth == nullptr);
+        polygon = std::make_unique<const PolygonLookup>(shape.m_vertices, viewport, view.m_pDepth == nullptr);
     if (kind != Kind::Empty && view.m_pDepth)
         visibility.emplace(view, points.m_nCount);
     if (!set.Resize(points.m_nCount))
