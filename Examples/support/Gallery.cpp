@@ -53,6 +53,8 @@ bool Gallery::add(CVQDIB& picture, const std::string& name, const std::string& c
 {
     const std::string file = m_section + "-" + name + ".png";
     m_entries.push_back({file, caption});
+    std::error_code error; // saving does not tell: a picture that was there before must not speak for this one
+    std::filesystem::remove(m_folder / file, error);
     return picture.Save((m_folder / file).wstring().c_str()) && isThere(m_folder / file);
 }
 

@@ -8,6 +8,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <limits>
 #include <numbers>
 #include <optional>
 
@@ -79,13 +80,12 @@ public:
         return rest();
     }
     /// The same, and may be empty.
-    std::string rest()
+    std::string rest() const
     {
         if (left() == 0)
             return {};
         const auto begin = static_cast<std::size_t>(m_words[m_next].data() - m_text.data());
         const auto end = static_cast<std::size_t>(m_words.back().data() - m_text.data()) + m_words.back().size();
-        m_next = m_words.size();
         return std::string(m_text.substr(begin, end - begin));
     }
 
@@ -362,35 +362,37 @@ struct Command
 {
     std::string_view name;
     void (*run)(Line&);
+    std::size_t mostWords; // behind it
     Ending ending = Ending::HeldKeys;
     bool failureEndsScript = true; // what cannot be understood does; what was only expected does not
 };
 
+constexpr std::size_t kAny = std::numeric_limits<std::size_t>::max();
 constexpr std::array<Command, 24> kCommands{{
-    {"size", size},
-    {"open", open, Ending::Text},
-    {"save", save, Ending::Text},
-    {"tool", tool},
-    {"press", press},
-    {"move", move},
-    {"release", release},
-    {"drag", drag},
-    {"ellipse", ellipse},
-    {"click", click},
-    {"wheel", wheel},
-    {"key", key},
-    {"hold", hold},
-    {"show", [](Line& line) { setShown(line, true); }},
-    {"hide", [](Line& line) { setShown(line, false); }},
-    {"through", through},
-    {"exchange", exchange},
-    {"colour", colour},
-    {"length", length},
-    {"count", count},
-    {"expect", expect, Ending::HeldKeys, false},
-    {"picture", [](Line& line) { keep(line, false); }, Ending::Text},
-    {"report", [](Line& line) { keep(line, true); }, Ending::Text},
-    {"wait", [](Line& line) { waitForScan(line.session()); }},
+    {"size", size, 3},
+    {"open", open, kAny, Ending::Text},
+    {"save", save, kAny, Ending::Text},
+    {"tool", tool, 1},
+    {"press", press, 3},
+    {"move", move, 2},
+    {"release", release, 3},
+    {"drag", drag, kAny},
+    {"ellipse", ellipse, 6},
+    {"click", click, 2},
+    {"wheel", wheel, 3},
+    {"key", key, 1},
+    {"hold", hold, 0},
+    {"show", [](Line& line) { setShown(line, true); }, 1},
+    {"hide", [](Line& line) { setShown(line, false); }, 1},
+    {"through", through, 1},
+    {"exchange", exchange, 1},
+    {"colour", colour, 5},
+    {"length", length, 2},
+    {"count", count, 0},
+    {"expect", expect, 1, Ending::HeldKeys, false},
+    {"picture", [](Line& line) { keep(line, false); }, kAny, Ending::Text},
+    {"report", [](Line& line) { keep(line, true); }, kAny, Ending::Text},
+    {"wait", [](Line& line) { waitForScan(line.session()); }, 0},
 }};
 
 Words wordsOf(std::string_view text)
@@ -416,9 +418,10 @@ bool runLine(std::string_view text, ScriptStage& stage, std::string& fault)
         if (command.name != name)
             continue;
         Line line(std::move(words), text.substr(0, text.find('#')), command.ending, stage);
-        command.run(line);
-        if (line.left() > 0)
+        if (line.left() > command.mostWords)
             line.fail("there is too much at the end");
+        else
+            command.run(line);
         fault = line.fault();
         return fault.empty() || !command.failureEndsScript;
     }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "vqview/session/Session.h"
 
+#include "vqview/session/PictureFile.h"
 #include "vqview/session/State.h"
 #include "vqview/text/Text.h"
 
@@ -318,23 +319,27 @@ void Session::preferencesChanged()
     m_state->lookedElsewhere();
 }
 
+bool Session::keepPicture(CVQDIB& picture, const std::filesystem::path& path)
+{
+    const std::filesystem::path written = writePicture(picture, path);
+    say(written.empty() ? utf8Of(path) + " cannot be written" : "Saved " + utf8Of(written));
+    return !written.empty();
+}
+
 bool Session::savePicture(const std::filesystem::path& path)
 {
     CVQDIB picture(1, 1);
     drawTo(picture);
-    const bool isSaved = picture.Save(textOfPath(path));
-    say(isSaved ? "Saved " + utf8Of(path) : utf8Of(path) + " cannot be written");
-    return isSaved;
+    return keepPicture(picture, path);
 }
 
 bool Session::saveReport(const std::filesystem::path& path)
 {
     CVQDIB report(1, 1);
     drawReportTo(report);
-    const bool isSaved = report.Save(textOfPath(path));
+    const bool isSaved = keepPicture(report, path);
     if (isSaved)
         m_state->report = report;
-    say(isSaved ? "Saved " + utf8Of(path) : utf8Of(path) + " cannot be written");
     return isSaved;
 }
 

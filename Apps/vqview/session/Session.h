@@ -167,6 +167,7 @@ private:
 
     void selectionEnded();
     void read(const std::filesystem::path& path);
+    bool keepPicture(CVQDIB& picture, const std::filesystem::path& path);
 
     std::unique_ptr<State> m_state;
 };

@@ -15,8 +15,7 @@ int lengthOf(const Text& text)
     return static_cast<int>(std::min<std::size_t>(text.size(), std::numeric_limits<int>::max() / 8));
 }
 
-/// The standard library's own conversions throw at what is no Unicode. They are needed nowhere: a path is wide where
-/// the system's paths are, and UTF-8 otherwise.
+/// The standard library's own conversions of paths throw at what is no Unicode: a path is taken as the system has it.
 constexpr bool kPathsAreWide = std::is_same_v<std::filesystem::path::value_type, wchar_t>;
 
 template <typename Native>
@@ -29,7 +28,7 @@ std::string utf8OfNative(const Native& native)
 }
 
 template <typename Path>
-Path pathOfText(std::string_view utf8)
+Path pathOfUtf8(std::string_view utf8)
 {
     if constexpr (kPathsAreWide)
         return Path(wideOf(utf8));
@@ -67,7 +66,7 @@ std::string utf8Of(const std::filesystem::path& path)
 
 std::filesystem::path pathOf(std::string_view utf8)
 {
-    return pathOfText<std::filesystem::path>(utf8);
+    return pathOfUtf8<std::filesystem::path>(utf8);
 }
 
 CString textOf(std::string_view utf8)

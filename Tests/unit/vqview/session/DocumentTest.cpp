@@ -59,7 +59,7 @@ public:
         setColour(DPC_BACKGROUND, 0, 1, 0);
         m_present = preferenceBytes();
     }
-    std::filesystem::path path(const wchar_t* name) const { return nativePath(m_folder) / name; }
+    std::filesystem::path path(std::wstring_view name) const { return nativePath(m_folder) / pathOf(utf8Of(name)); }
 
     std::string outcomeOf(std::string_view bytes, Document& document)
     {
@@ -161,7 +161,7 @@ public:
         EXPECT_TRUE(session.model());
         session.texture().Resize(8, 8);
     }
-    std::filesystem::path path(const wchar_t* name) const { return nativePath(m_folder) / name; }
+    std::filesystem::path path(std::wstring_view name) const { return nativePath(m_folder) / pathOf(utf8Of(name)); }
 
     /// Everything that a failure must not change.
     struct Snapshot
@@ -308,6 +308,17 @@ TEST_F(Documents, ThatCannotBeWrittenLeaveTheOldFileAndTheReport)
     EXPECT_FALSE(session.savePicture(path(L"all.vqd") / "below.png"));
     EXPECT_EQ(bytesOfFile(m_folder / L"all.vqd"), before);
     EXPECT_TRUE(snapshot() == old) << "the report is the one that was saved last";
+}
+
+TEST_F(Documents, HavePicturesBesideThemInTheFormatOfTheirEnding)
+{
+    EXPECT_TRUE(session.savePicture(path(L"a.bmp")));
+    EXPECT_EQ(bytesOfFile(m_folder / L"a.bmp").substr(0, 2), "BM");
+    EXPECT_TRUE(session.saveReport(path(L"b")));
+    EXPECT_EQ(bytesOfFile(m_folder / L"b.png").substr(1, 3), "PNG");
+    EXPECT_THAT(session.notice(), HasSubstr("b.png"));
+    EXPECT_TRUE(session.savePicture(path(L"a.bmp"))) << "over the old one";
+    EXPECT_EQ(m_folder.names(), (std::vector<std::string>{"a.bmp", "b.png", "scan.obj"}));
 }
 
 TEST_F(Documents, StandAtNamesOfEveryScript)

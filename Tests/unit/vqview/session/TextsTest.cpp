@@ -197,29 +197,5 @@ TEST_F(Measuring, AnotherScanHasNoPicks)
     session.draw();
 }
 
-TEST(Text, GroupsDigitsByThree)
-{
-    EXPECT_EQ(counted(0), "0");
-    EXPECT_EQ(counted(999), "999");
-    EXPECT_EQ(counted(1000), "1,000");
-    EXPECT_EQ(counted(1234567), "1,234,567");
-}
-
-TEST(Text, PathsComeBackFromWhatIsShownOfThem)
-{
-    const std::string name = "gr\xC3\xBC\xC3\x9F"
-                             "e-\xE2\x82\xAC.obj";
-    EXPECT_EQ(utf8Of(pathOf(name)), name);
-    EXPECT_EQ(std::wstring(static_cast<const wchar_t*>(textOfPath(pathOf(name)))), L"gr\u00FC\u00DFe-\u20AC.obj");
-}
-
-TEST(Text, WhatIsNoUnicodeThrowsNothing)
-{
-    const std::string broken = "scan-\xFF\xFE\xC3.obj";
-    EXPECT_NO_THROW(EXPECT_FALSE(utf8Of(pathOf(broken)).empty()));
-    EXPECT_NO_THROW(EXPECT_FALSE(textOfPath(pathOf(broken)).IsEmpty()));
-    EXPECT_NO_THROW(EXPECT_FALSE(textOf(std::string_view(broken)).IsEmpty()));
-}
-
 } // namespace
 } // namespace vqview::test

@@ -25,6 +25,13 @@ TEST(Text, NamesFilesBeyondAscii)
     EXPECT_STREQ(textOfPath(pathOf("H\xC3\xBClle.obj")).GetString(), L"H\u00FClle.obj");
 }
 
+TEST(Text, OfAPathThatIsNoUnicodeThrowsNothing)
+{
+    const std::string broken = "scan-\xFF\xFE\xC3.obj";
+    EXPECT_NO_THROW(EXPECT_FALSE(utf8Of(pathOf(broken)).empty()));
+    EXPECT_NO_THROW(EXPECT_FALSE(textOfPath(pathOf(broken)).IsEmpty()));
+}
+
 TEST(Counted, HasACommaBeforeEveryThreeDigits)
 {
     EXPECT_EQ(counted(0), "0");
