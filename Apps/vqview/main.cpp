@@ -2,6 +2,7 @@
 // vqview, a viewer of scans:  vqview --help
 #include "support/GdiPlus.h"
 #include "vqview/CommandLine.h"
+#include "vqview/arguments/Arguments.h"
 #include "vqview/offscreen/OffScreenRun.h"
 #include "vqview/session/Session.h"
 #include "vqview/window/Window.h"
@@ -10,7 +11,8 @@
 
 int main(int argc, char** argv)
 {
-    const vqview::CommandLine line = vqview::commandLineOf({argv + 1, argv + argc});
+    const std::vector<std::string> arguments = vqview::argumentsOf(argc, argv);
+    const vqview::CommandLine line = vqview::commandLineOf({arguments.begin(), arguments.end()});
     if (line.isHelp || !line.fault.empty()) {
         if (!line.fault.empty())
             std::fprintf(stderr, "vqview: %s\n", line.fault.c_str());

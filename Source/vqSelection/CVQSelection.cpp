@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <bit>
+#include <memory>
 #include <optional>
 
 namespace {
@@ -85,15 +86,47 @@ private:
     std::optional<vq::OutlineGrid> m_beyond;
 };
 
-void dropHidden(const vq::DepthBuffer& depth, const vq::PointBlock& block, Bits& bits)
+/// Drops points that something hides. For many of them what hides is looked up in a map, which costs as much as the
+/// viewport is large.
+class Visibility
 {
-    for (std::size_t word = 0; word < bits.size(); ++word)
-        for (std::uint64_t rest = bits[word]; rest != 0; rest &= rest - 1) {
-            const std::size_t i = word * kWordBits + static_cast<std::size_t>(std::countr_zero(rest));
-            if (!depth.shows(block.x[i], block.y[i], block.depth[i]))
-                bits[word] &= ~(rest & (~rest + 1));
+public:
+    Visibility(const SVQSelectionView& view, std::size_t points)
+        : m_depth(view.m_pDepth, view.m_view.m_iViewport, view.m_dTolerance)
+    {
+        constexpr double kPixelsForAPoint = 16; // of a map, in the time in which nine are looked at
+        const double pixels = static_cast<double>(view.m_view.m_iViewport[2]) * view.m_view.m_iViewport[3];
+        m_hasMap = static_cast<double>(points) * kPixelsForAPoint >= pixels && m_depth.mapFarthest();
+    }
+
+    void dropHidden(const vq::PointBlock& block, std::size_t count, Bits& bits) const
+    {
+        if (!m_hasMap) {
+            keep(bits, [&](std::size_t i) { return m_depth.shows(block.x[i], block.y[i], block.depth[i]); });
+            return;
         }
-}
+        std::array<std::int32_t, vq::PointBlock::kSize> pixels;
+        m_depth.find(block.x, block.y, count, pixels.data());
+        keep(bits, [&](std::size_t i) { return m_depth.shows(pixels[i], block.depth[i]); });
+    }
+
+private:
+    template <typename Shows>
+    static void keep(Bits& bits, Shows shows)
+    {
+        for (std::size_t word = 0; word < bits.size(); ++word) {
+            std::uint64_t shown = 0;
+            for (std::uint64_t rest = bits[word]; rest != 0; rest &= rest - 1) {
+                const auto bit = static_cast<std::size_t>(std::countr_zero(rest));
+                shown |= std::uint64_t{shows(word * kWordBits + bit)} << bit;
+            }
+            bits[word] = shown;
+        }
+    }
+
+    vq::DepthBuffer m_depth;
+    bool m_hasMap;
+};
 
 std::uint64_t combined(EVQSelectionMode mode, std::uint64_t before, std::uint64_t found)
 {
@@ -114,6 +147,7 @@ std::uint64_t combined(EVQSelectionMode mode, std::uint64_t before, std::uint64_
 struct Pass
 {
     const SVQSelectionView& view;
+    const std::optional<Visibility>& visibility;
     const SVQSelectionPoints& points;
     EVQSelectionMode mode;
     std::uint64_t* words;
@@ -123,7 +157,6 @@ struct Pass
     std::size_t run(const Mark& mark) const
     {
         const vq::Projection projection(view.m_view.m_dModelView, view.m_view.m_dProjection, view.m_view.m_iViewport);
-        const vq::DepthBuffer depth(view.m_pDepth, view.m_view.m_iViewport, view.m_dTolerance);
         std::size_t changed = 0;
         vq::PointBlock block;
         Bits bits;
@@ -131,8 +164,8 @@ struct Pass
             const std::size_t count = std::min(vq::PointBlock::kSize, points.m_nCount - first);
             projection.project(points.m_pPoints + first * 3, count, block);
             mark(block, count, bits);
-            if (view.m_pDepth)
-                dropHidden(depth, block, bits);
+            if (visibility)
+                visibility->dropHidden(block, count, bits);
             changed += store(bits, count, words + first / kWordBits);
         }
         return changed;
@@ -161,13 +194,16 @@ std::size_t CVQSelection::Select(const CVQSelectionShape& shape, const SVQSelect
     const int(&viewport)[4] = view.m_view.m_iViewport;
     const bool showsNothing = viewport[2] <= 0 || viewport[3] <= 0;
     const Kind kind = showsNothing ? Kind::Empty : shape.m_kind;
-    std::optional<PolygonLookup> polygon; // before anything changes, since memory may be short
+    std::unique_ptr<const PolygonLookup> polygon; // these before anything changes, since memory may be short
+    std::optional<Visibility> visibility;
     if (kind == Kind::Polygon)
-        polygon.emplace(shape.m_vertices, viewport, view.m_pDepth == nullptr);
+        polygon = std::make_unique<const PolygonLookup>(shape.m_vertices, viewport, view.m_pDepth == nullptr);
+    if (kind != Kind::Empty && view.m_pDepth)
+        visibility.emplace(view, points.m_nCount);
     if (!set.Resize(points.m_nCount))
         return 0;
 
-    const Pass pass{view, points, mode, set.m_words.data()};
+    const Pass pass{view, visibility, points, mode, set.m_words.data()};
     const auto markWhere = [&pass](auto has) {
         return pass.run([&has](const vq::PointBlock& block, std::size_t count, Bits& bits) {
             setBits(count, bits, [&](std::size_t i) { return has(block.x[i], block.y[i]); });

@@ -174,8 +174,9 @@ public:
     /// The set takes the size of the points first. Points that are null, though there should be some, select nothing
     /// and change nothing.
     ///
-    /// The cost is one pass over the points whatever the shape. A polygon is looked up in cells of a pixel; their
-    /// memory is bounded by the viewport and the number of vertices. Every build gives the same bits.
+    /// The cost is one pass over the points whatever the shape. A polygon is looked up in cells of a pixel, and for
+    /// many points a depth buffer in a copy; their memory is bounded by the viewport and the number of vertices. Every
+    /// build gives the same bits.
     ///
     /// @return how many of the points were changed: selected now and not before, or the other way round.
     static std::size_t Select(const CVQSelectionShape& shape, const SVQSelectionView& view,

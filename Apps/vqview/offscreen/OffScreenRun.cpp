@@ -17,6 +17,8 @@ namespace vqview {
 
 namespace {
 
+constexpr int kSamples = 4; // as in a window
+
 int fail(const std::string& what)
 {
     std::fprintf(stderr, "vqview: %s\n", what.c_str());
@@ -46,7 +48,7 @@ public:
                 m_session->releaseGraphics();
             m_context.reset(); // only one at a time
             std::string reason;
-            m_context = OffScreenContext::make(width, height, reason);
+            m_context = OffScreenContext::make(width, height, reason, kSamples);
             if (!m_context)
                 return "OpenGL does not work here: " + reason;
         }

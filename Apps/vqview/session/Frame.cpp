@@ -13,12 +13,17 @@ namespace vqview {
 
 namespace {
 
-/// Coordinates of OpenGL are pixels while this lives, the origin at the lower left, as selection shapes are drawn.
+/// Coordinates of OpenGL are the view's pixels while this lives, the origin at its lower left, and colours are blended,
+/// as selection shapes expect of their host.
 class PixelMatrices
 {
 public:
-    PixelMatrices(int width, int height)
+    explicit PixelMatrices(const SVQGLVariables& view)
     {
+        const auto [x, y, width, height] = view.m_iViewport;
+        glPushAttrib(GL_VIEWPORT_BIT | GL_COLOR_BUFFER_BIT | GL_TRANSFORM_BIT);
+        glViewport(x, y, width, height);
+        glBlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA);
         glMatrixMode(GL_PROJECTION);
         glPushMatrix();
         glLoadIdentity();
@@ -34,7 +39,7 @@ public:
         glPopMatrix();
         glMatrixMode(GL_PROJECTION);
         glPopMatrix();
-        glMatrixMode(GL_MODELVIEW);
+        glPopAttrib();
     }
 };
 
@@ -106,12 +111,9 @@ void Session::State::drawShape()
 {
     if (!selecting.isDrawing())
         return;
-    const PixelMatrices matrices(width, height);
     SVQGLVariables view = camera.variables();
-    glPushAttrib(GL_COLOR_BUFFER_BIT);
-    glBlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA); // shapes blend as their host does
+    const PixelMatrices matrices(view);
     CVQDrawingAPI::DrawDrag(view);
-    glPopAttrib();
 }
 
 ReportContent Session::State::reportContent()

@@ -69,8 +69,14 @@ SVQSelectionView Session::State::selectionView()
     if (throughAll)
         return SVQSelectionView::Of(view);
     if (!isDepthKnown) {
+        constexpr GLenum kMultisample = 0x809D; // of OpenGL 1.3
+        const GLboolean hasSamples = glIsEnabled(kMultisample);
+        if (hasSamples)
+            glDisable(kMultisample); // one depth a pixel, the same with and without
         drawScene();
         scene->readDepth(view, depth);
+        if (hasSamples)
+            glEnable(kMultisample);
         isDepthKnown = true;
         changed(); // what was in the frame is gone
     }

@@ -36,7 +36,7 @@ public:
     }
 
     /// Empty, or what failed.
-    std::string open()
+    std::string open(int samples)
     {
         m_display = eglGetPlatformDisplay(EGL_PLATFORM_SURFACELESS_MESA, EGL_DEFAULT_DISPLAY, nullptr);
         if (!m_display)
@@ -46,14 +46,8 @@ public:
         if (!eglBindAPI(EGL_OPENGL_API))
             return failureOf("eglBindAPI(EGL_OPENGL_API)");
 
-        // clang-format off
-        const EGLint format[]{EGL_SURFACE_TYPE, EGL_PBUFFER_BIT, EGL_RENDERABLE_TYPE, EGL_OPENGL_BIT,
-                              EGL_RED_SIZE, 8, EGL_GREEN_SIZE, 8, EGL_BLUE_SIZE, 8, EGL_ALPHA_SIZE, 8,
-                              EGL_DEPTH_SIZE, 24, EGL_SAMPLE_BUFFERS, 0, EGL_NONE};
-        // clang-format on
         EGLConfig config{};
-        EGLint found = 0;
-        if (!eglChooseConfig(m_display, format, &config, 1, &found) || found == 0)
+        if (!choose(config, samples) && !choose(config, 0))
             return failureOf("eglChooseConfig");
         const EGLint size[]{EGL_WIDTH, width(), EGL_HEIGHT, height(), EGL_NONE};
         m_surface = eglCreatePbufferSurface(m_display, config, size);
@@ -66,6 +60,17 @@ public:
     }
 
 private:
+    bool choose(EGLConfig& config, int samples) const
+    {
+        // clang-format off
+        const EGLint format[]{EGL_SURFACE_TYPE, EGL_PBUFFER_BIT, EGL_RENDERABLE_TYPE, EGL_OPENGL_BIT,
+                              EGL_RED_SIZE, 8, EGL_GREEN_SIZE, 8, EGL_BLUE_SIZE, 8, EGL_ALPHA_SIZE, 8,
+                              EGL_DEPTH_SIZE, 24, EGL_SAMPLE_BUFFERS, samples > 0, EGL_SAMPLES, samples, EGL_NONE};
+        // clang-format on
+        EGLint found = 0;
+        return eglChooseConfig(m_display, format, &config, 1, &found) && found > 0;
+    }
+
     EGLDisplay m_display = EGL_NO_DISPLAY;
     EGLSurface m_surface = EGL_NO_SURFACE;
     EGLContext m_context = EGL_NO_CONTEXT;
@@ -73,9 +78,9 @@ private:
 
 } // namespace
 
-std::unique_ptr<OffScreenContext> OffScreenContext::make(int width, int height, std::string& reason)
+std::unique_ptr<OffScreenContext> OffScreenContext::make(int width, int height, std::string& reason, int samples)
 {
     auto context = std::make_unique<EglContext>(width, height);
-    reason = context->open();
+    reason = context->open(samples);
     return reason.empty() ? std::move(context) : nullptr;
 }

@@ -14,8 +14,9 @@
 class OffScreenContext
 {
 public:
-    /// Sizes are in pixels, from 1 on. @return null where there is no OpenGL; `reason` says what failed.
-    static std::unique_ptr<OffScreenContext> make(int width, int height, std::string& reason);
+    /// Sizes are in pixels, from 1 on. `samples` of each pixel smooth edges, where the system can do that: 0 is none.
+    /// @return null where there is no OpenGL; `reason` says what failed.
+    static std::unique_ptr<OffScreenContext> make(int width, int height, std::string& reason, int samples = 0);
 
     virtual ~OffScreenContext() = default;
     OffScreenContext(const OffScreenContext&) = delete;

@@ -127,7 +127,7 @@ private:
 
 } // namespace
 
-std::unique_ptr<OffScreenContext> OffScreenContext::make(int width, int height, std::string& reason)
+std::unique_ptr<OffScreenContext> OffScreenContext::make(int width, int height, std::string& reason, int)
 {
     auto context = std::make_unique<WglContext>(width, height);
     reason = context->open();

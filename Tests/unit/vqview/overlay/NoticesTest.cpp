@@ -2,6 +2,7 @@
 #include "vqview/overlay/Notices.h"
 #include "unit/vqview/overlay/OverlayFixture.h"
 #include "vqview/overlay/Panels.h"
+#include "vqview/text/Text.h"
 
 namespace vqview::test {
 namespace {
@@ -115,10 +116,10 @@ TEST(TextStyle, CutsWithAnEllipsisWhatDoesNotFit)
 
 TEST(TextStyle, ReadsUtf8)
 {
-    EXPECT_STREQ(wide("\xC3\xA4\xE2\x82\xAC"), L"\x00E4\x20AC");
-    EXPECT_TRUE(wide("").IsEmpty());
-    EXPECT_NE(wide("a\xFF"
-                   "b")
+    EXPECT_STREQ(textOf("\xC3\xA4\xE2\x82\xAC"), L"\x00E4\x20AC");
+    EXPECT_TRUE(textOf("").IsEmpty());
+    EXPECT_NE(textOf("a\xFF"
+                     "b")
                   .Find(L'\xFFFD'),
               -1);
 }
