@@ -18,6 +18,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <deque>
+#include <utility>
 #include <vector>
 
 class CVQArchive;
@@ -113,6 +114,20 @@ class VQSELECTION_API CVQSelectionSet
 public:
     /// Of that many points none is selected.
     explicit CVQSelectionSet(std::size_t size = 0);
+
+    CVQSelectionSet(const CVQSelectionSet& other) = default;
+    CVQSelectionSet& operator=(const CVQSelectionSet& other) = default;
+    /// The other one is of no points then.
+    CVQSelectionSet(CVQSelectionSet&& other) noexcept
+        : m_nSize(std::exchange(other.m_nSize, 0)), m_words(std::exchange(other.m_words, {}))
+    {
+    }
+    CVQSelectionSet& operator=(CVQSelectionSet&& other) noexcept
+    {
+        m_nSize = std::exchange(other.m_nSize, 0);
+        m_words = std::exchange(other.m_words, {});
+        return *this;
+    }
 
     /// New points are not selected. @return false, and nothing has changed, beyond 2^32 points.
     bool Resize(std::size_t size);

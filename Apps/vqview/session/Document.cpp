@@ -3,7 +3,9 @@
 
 #include "vqview/text/Text.h"
 
+#include <algorithm>
 #include <array>
+#include <fstream>
 #include <functional>
 
 namespace vqview {
@@ -12,6 +14,7 @@ namespace {
 
 constexpr std::array<char, 4> kMark{'V', 'Q', 'V', 'D'};
 constexpr BYTE kVersion = 1;
+constexpr const char* kCut = "cannot be read to its end";
 constexpr std::uint32_t kLongestPath = 0x8000; // bytes
 
 void writePreferences(CVQArchive* archive)
@@ -122,6 +125,19 @@ std::string guarded(const std::function<std::string()>& work, const char* failed
 
 } // namespace
 
+bool isDocument(const std::filesystem::path& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    std::array<char, 4> begin{};
+    if (file.read(begin.data(), begin.size()))
+        return begin == kMark;
+    std::string extension = utf8Of(path.extension());
+    std::ranges::transform(extension, extension.begin(), [](char c) {
+        return c == 'V' || c == 'Q' || c == 'D' ? static_cast<char>(c - 'A' + 'a') : c;
+    });
+    return extension == ".vqd";
+}
+
 std::string writeDocument(const std::filesystem::path& path, Document& document)
 {
     const std::string failure = guarded(
@@ -135,17 +151,23 @@ std::string writeDocument(const std::filesystem::path& path, Document& document)
     return failure.empty() ? failure : utf8Of(path.filename()) + " " + failure;
 }
 
-std::string readDocument(const std::filesystem::path& path, Document& document)
+std::string readDocument(CVQArchive& archive, Document& document)
 {
     PreferenceGuard guard;
+    std::string failure = guarded([&] { return read(archive, document); }, kCut);
+    if (failure.empty())
+        guard.keep();
+    return failure;
+}
+
+std::string readDocument(const std::filesystem::path& path, Document& document)
+{
     const std::string failure = guarded(
         [&] {
             CVQFileArchive archive(textOfPath(path), CVQFileArchive::load);
-            return read(archive, document);
+            return readDocument(archive, document);
         },
-        "cannot be read to its end");
-    if (failure.empty())
-        guard.keep();
+        kCut);
     return failure.empty() ? failure : utf8Of(path.filename()) + " " + failure;
 }
 

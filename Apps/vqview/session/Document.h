@@ -22,10 +22,15 @@ struct Document
     CVQSelectionSet selection;
 };
 
+/// Whether a file is one, by how it begins; of a file that cannot be read, by the extension ".vqd".
+bool isDocument(const std::filesystem::path& path);
+
 /// @return empty, or what failed; an old file then stays as it was.
 std::string writeDocument(const std::filesystem::path& path, Document& document);
 
 /// @return empty, or what failed; preferences are then what they were, and what `document` holds is of no use.
 std::string readDocument(const std::filesystem::path& path, Document& document);
+/// The same from any archive; the fault lacks the file's name.
+std::string readDocument(CVQArchive& archive, Document& document);
 
 } // namespace vqview

@@ -132,7 +132,6 @@ void Session::move(CPoint to, Modifiers held)
         state.camera.pan(dx, dy);
     else
         state.camera.turn(dx, dy);
-    state.underWheel.reset();
     state.lookedElsewhere();
 }
 

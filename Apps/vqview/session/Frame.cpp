@@ -8,6 +8,7 @@
 #include "vqview/session/State.h"
 
 #include <cmath>
+#include <utility>
 
 namespace vqview {
 
@@ -72,11 +73,10 @@ void Session::State::drawScene()
     scene->draw(camera.variables(), shown.faces, shown.edges, shown.vertices, scale);
 }
 
-float Session::State::markerRadius() const
+float Session::State::markerRadius(const Point3& at) const
 {
-    // How long a pixel is at the first picked point: the viewer sees two places a unit of length apart.
+    // How long some pixels are at that place.
     SVQGLVariables view = camera.variables();
-    const Point3 at = picked.empty() ? Point3() : model->positions[picked.front()];
     double x = 0, y = 0, z = 0, beside[3]{};
     gluProject(at.x, at.y, at.z, view.m_dModelView, view.m_dProjection, view.m_iViewport, &x, &y, &z);
     gluUnProject(x + kMarkerPixels * scale, y, z, view.m_dModelView, view.m_dProjection, view.m_iViewport, &beside[0],
@@ -95,12 +95,13 @@ void Session::State::drawMarks()
         return;
     std::vector<Marker> markers;
     addMeasureMarkers(pickedPoints(), markers);
-    const float radius = markerRadius();
-    drawMarkers(markers, view, radius, scale);
+    for (const Marker& marker : markers)
+        drawMarkers({&marker, 1}, view, markerRadius(marker.at), scale);
     if (model->normals.size() != model->positions.size())
         return;
     const Point3& normal = model->normals[picked.back()];
     const Point3& at = model->positions[picked.back()];
+    const float radius = markerRadius(at);
     const float lift = radius / 2; // over what bends towards it
     const Point3 above{at.x + normal.x * lift, at.y + normal.y * lift, at.z + normal.z * lift};
     const Marker disk{MarkerKind::Disk, above, normal, {}, DPM_REGION_PLANE};
@@ -181,8 +182,10 @@ void Session::drawTo(CVQDIB& image)
 
 void Session::drawReportTo(CVQDIB& image)
 {
+    const bool wasShown = std::exchange(m_state->shown.report, true); // the colours that its bar explains
     m_state->drawScene();
     m_state->drawMarks();
+    m_state->shown.report = wasShown;
     copyFrame(image, variables());
     image.EnableAntialias(true);
     m_state->drawOverlay(image, true, true);

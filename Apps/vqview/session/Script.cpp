@@ -7,6 +7,7 @@
 
 #include <array>
 #include <charconv>
+#include <chrono>
 #include <cmath>
 #include <limits>
 #include <numbers>
@@ -358,6 +359,23 @@ void keep(Line& line, bool isReport)
         line.fail("the picture cannot be written");
 }
 
+void time(Line& line)
+{
+    constexpr double kMostFrames = 10000;
+    const double frames = line.number();
+    if (!(frames >= 1 && frames <= kMostFrames))
+        return line.fail("from 1 frame on");
+    line.session().draw(); // what is made once
+    glFinish();
+    const auto begin = std::chrono::steady_clock::now();
+    for (int frame = 0; frame < static_cast<int>(frames); ++frame) {
+        line.session().draw();
+        glFinish();
+    }
+    const std::chrono::duration<double, std::milli> taken = std::chrono::steady_clock::now() - begin;
+    line.stage().print("milliseconds a frame " + std::to_string(taken.count() / std::floor(frames)));
+}
+
 struct Command
 {
     std::string_view name;
@@ -368,7 +386,7 @@ struct Command
 };
 
 constexpr std::size_t kAny = std::numeric_limits<std::size_t>::max();
-constexpr std::array<Command, 24> kCommands{{
+constexpr std::array<Command, 25> kCommands{{
     {"size", size, 3},
     {"open", open, kAny, Ending::Text},
     {"save", save, kAny, Ending::Text},
@@ -390,6 +408,7 @@ constexpr std::array<Command, 24> kCommands{{
     {"length", length, 2},
     {"count", count, 0},
     {"expect", expect, 1, Ending::HeldKeys, false},
+    {"time", time, 1},
     {"picture", [](Line& line) { keep(line, false); }, kAny, Ending::Text},
     {"report", [](Line& line) { keep(line, true); }, kAny, Ending::Text},
     {"wait", [](Line& line) { waitForScan(line.session()); }, 0},

@@ -45,6 +45,7 @@ struct ScriptStage
 /// | `length NAME VALUE` | a size of the preferences |
 /// | `wait` | for a scan that is being read |
 /// | `count` | prints how many points are selected |
+/// | `time FRAMES` | prints how long a frame takes on average |
 /// | `expect COUNT` | fails when that many are not |
 /// | `picture NAME CAPTION` | keeps the frame; the caption is the rest of the line |
 /// | `report NAME CAPTION` | keeps the report |

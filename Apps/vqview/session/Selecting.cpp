@@ -192,6 +192,8 @@ bool Selecting::key(Key key, Modifiers held)
 void Selecting::closePolygon(Modifiers held)
 {
     CVQDragPolygon& polygon = *CVQDrawingAPI::DragPolygon();
+    if (polygon.GetCount() < 3) // it would select nothing, and drop what is selected
+        return drop();
     polygon.End();
     m_lastOutline = outlineOf(polygon);
     select(CVQSelectionShape::Of(polygon), held);

@@ -64,6 +64,10 @@ Session::~Session() = default;
 
 void Session::setSize(int width, int height, float scale)
 {
+    if (width == m_state->width && height == m_state->height && scale == m_state->scale)
+        return;
+    if (scale != m_state->scale)
+        CVQDisplayAPI::SetScaleFactor(scale); // by which the library's shapes draw their lines
     m_state->width = std::max(width, 1);
     m_state->height = std::max(height, 1);
     m_state->scale = scale;
@@ -106,18 +110,20 @@ void Session::poll(Clock::time_point now)
     std::optional<ReadOutcome> outcome = m_state->loader.poll();
     if (!outcome)
         return;
-    if (!outcome->message.empty() || outcome->model)
+    if (!outcome->message.empty())
         say(outcome->message);
-    if (!outcome->model)
+    if (!outcome->model) // a document goes on waiting for its scan, which may be elsewhere
         return;
     m_state->modelPath = m_state->pathOfLoader;
     m_state->showModel(std::move(outcome->model));
-    m_state->takeOverSelection();
+    const auto document = std::exchange(m_state->documentToCome, nullptr);
+    if (document && pathOf(document->scan).filename() == m_state->modelPath.filename())
+        m_state->takeOver(*document);
 }
 
 void Session::open(const std::filesystem::path& path)
 {
-    if (path.extension() == ".vqd")
+    if (isDocument(path))
         openDocument(path);
     else
         read(path);
@@ -125,8 +131,9 @@ void Session::open(const std::filesystem::path& path)
 
 void Session::read(const std::filesystem::path& path)
 {
-    m_state->selectionToCome.reset();
-    m_state->pathOfLoader = path;
+    std::error_code error; // a document is opened from any folder
+    const std::filesystem::path whole = std::filesystem::absolute(path, error);
+    m_state->pathOfLoader = error ? path : whole;
     m_state->loader.start(path);
     m_state->changed();
 }
@@ -297,7 +304,8 @@ std::string Session::statusLine() const
     line += "   " + counted(selectedCount()) + " of " + counted(state.model->positions.size()) + " points selected   ";
     line += state.throughAll ? "through" : "visible";
     if (const std::size_t corners = state.selecting.cornerCount(); corners > 0)
-        line += "   " + std::to_string(corners) + (corners == 1 ? " corner" : " corners") + ", Enter closes";
+        line += "   " + std::to_string(corners) + (corners == 1 ? " corner" : " corners") +
+                (corners < 3 ? "" : ", Enter closes");
     const EVQSelectionMode mode = modeOf(state.held, state.selecting.exchangesKeys());
     if (tool() != Tool::Look && tool() != Tool::Measure)
         return line + "   " + effectOf(mode);
@@ -346,34 +354,41 @@ bool Session::saveReport(const std::filesystem::path& path)
 bool Session::saveDocument(const std::filesystem::path& path)
 {
     State& state = *m_state;
+    const std::filesystem::path named = path.has_extension() ? path : std::filesystem::path(path) += ".vqd";
     Document document;
     drawReportTo(document.report);
     document.scan = utf8Of(state.modelPath);
     document.texture = state.texture;
     document.selection = state.selecting.set();
-    const std::string failure = writeDocument(path, document);
+    const std::string failure = writeDocument(named, document);
     if (failure.empty())
         state.report = document.report;
-    say(failure.empty() ? "Saved " + utf8Of(path) : failure);
+    say(failure.empty() ? "Saved " + utf8Of(named) : failure);
     return failure.empty();
 }
 
 bool Session::openDocument(const std::filesystem::path& path)
 {
     State& state = *m_state;
-    Document document;
-    if (const std::string failure = readDocument(path, document); !failure.empty()) {
+    auto document = std::make_unique<Document>();
+    if (const std::string failure = readDocument(path, *document); !failure.empty()) {
         say(failure);
         return false;
     }
-    state.report = document.report;
-    state.texture = document.texture;
     say("Opened " + utf8Of(path));
     preferencesChanged();
-    if (document.scan.empty())
+    if (document->scan.empty()) {
+        state.report = document->report;
+        state.texture = document->texture;
         return true;
-    read(pathOf(document.scan));
-    state.selectionToCome = std::move(document.selection);
+    }
+    std::filesystem::path scan = pathOf(document->scan);
+    std::error_code error; // one that has moved along with the document is found beside it
+    if (const auto beside = path.parent_path() / scan.filename();
+        !std::filesystem::exists(scan, error) && std::filesystem::exists(beside, error))
+        scan = beside;
+    read(scan);
+    state.documentToCome = std::move(document);
     return true;
 }
 

@@ -84,7 +84,7 @@ public:
 
     /// @name The scan
     /// @{
-    /// Reads a scan on a thread of its own; what is shown stays until it is there. A document (".vqd") is opened at
+    /// Reads a scan on a thread of its own; what is shown stays until it is there. A document is opened at
     /// once. A failure becomes a notice.
     void open(const std::filesystem::path& path);
     /// Shows a scan. Nothing of it is selected, and the view fits it.

@@ -26,7 +26,8 @@ void Session::State::showModel(std::shared_ptr<const Model> shownModel)
     picked.clear();
     areValuesKnown = false;
     isSceneOfModel = false;
-    underWheel.reset();
+    texture = CVQTexture(texture.GetWidth(), texture.GetHeight()); // not the one of the scan before
+    report.Resize(1, 1);
     if (model)
         camera.fit(model->bounds);
     lookedElsewhere();
@@ -104,15 +105,15 @@ std::optional<Point3> Session::State::placeAt(CPoint at)
 
 void Session::State::zoomTo(double steps, CPoint at)
 {
-    if (!underWheel || at != wheelAt) {
+    if (!isWheelKnown || at != wheelAt)
         underWheel = model ? placeAt(at) : std::nullopt;
-        wheelAt = at;
-    }
+    wheelAt = at;
     if (underWheel)
         camera.zoom(steps, at.x + 0.5, at.y + 0.5, *underWheel);
     else
         camera.zoom(steps, at.x + 0.5, at.y + 0.5);
     lookedElsewhere();
+    isWheelKnown = true; // it stays under the mouse
 }
 
 bool Session::State::pick(CPoint at)
@@ -145,13 +146,14 @@ void Session::State::paintTexture()
     texture.ClearRgnPath(corners.data(), count, 1, painted, 0xFF);
 }
 
-void Session::State::takeOverSelection()
+void Session::State::takeOver(Document& document)
 {
-    if (!selectionToCome)
-        return;
-    if (!selecting.setTo(*selectionToCome))
+    if (!selecting.setTo(document.selection)) {
         say("The document's selection is of another scan");
-    selectionToCome.reset();
+        return;
+    }
+    report = document.report;
+    texture = document.texture;
 }
 
 } // namespace vqview

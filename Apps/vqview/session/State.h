@@ -29,8 +29,8 @@ struct Session::State
     std::filesystem::path modelPath;
     LoadThread loader;
     std::filesystem::path pathOfLoader;
-    std::optional<CVQSelectionSet> selectionToCome; // of the scan that a document is waiting for
-    std::vector<float> values;                      // of the points; made when needed
+    std::unique_ptr<Document> documentToCome; // its scan is being read, or could not be
+    std::vector<float> values;                // of the points; made when needed
     bool areValuesKnown = false;
 
     Camera camera;
@@ -49,7 +49,8 @@ struct Session::State
     std::optional<Button> dragging; // a button that turns or pans
     bool dragPans = false;
     CPoint mouse;
-    std::optional<Point3> underWheel; // the place of the scene that the wheel goes to
+    std::optional<Point3> underWheel; // the place of the scene that the wheel goes to; nothing over the background
+    bool isWheelKnown = false;        // for where the mouse is, as the scene is looked at
     CPoint wheelAt;
     Modifiers held;
 
@@ -65,6 +66,7 @@ struct Session::State
     void lookedElsewhere()
     {
         isDepthKnown = false;
+        isWheelKnown = false;
         wantsFrame = true;
     }
     void say(std::string text);
@@ -79,7 +81,7 @@ struct Session::State
     /// Labels and report into an image of the frame's size.
     void drawOverlay(CVQDIB& image, bool withReport, bool withShape);
     ReportContent reportContent();
-    float markerRadius() const;
+    float markerRadius(const Point3& at) const;
     std::vector<Point3> pickedPoints() const;
     Point3 selectedCentre();
     /// The view with the depth of the scene, which it draws for that when it must.
@@ -92,8 +94,8 @@ struct Session::State
     void zoomTo(double steps, CPoint at);
     /// Paints the outline of the last selection into the texture, the frame as a whole.
     void paintTexture();
-    /// Selects what a document told, once its scan is there.
-    void takeOverSelection();
+    /// Of a document, once its scan is there: report, texture and selection.
+    void takeOver(Document& document);
 };
 
 } // namespace vqview

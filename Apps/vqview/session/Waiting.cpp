@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "vqview/session/Waiting.h"
 
+#include "vqview/session/Document.h"
 #include "vqview/session/Session.h"
 
 #include <chrono>
@@ -19,7 +20,7 @@ void waitForScan(Session& session)
 std::string openAndWait(Session& session, const std::filesystem::path& path)
 {
     const std::shared_ptr<const Model> before = session.model();
-    if (path.extension() != ".vqd")
+    if (!isDocument(path))
         session.open(path);
     else if (!session.openDocument(path))
         return session.notice();

@@ -69,7 +69,7 @@ Modifiers Events::held() const
 /// Known without a frame in between, as what Dear ImGui wants of the mouse is not.
 bool Events::isForView(CPoint at) const
 {
-    return m_layout.isInView(at) && !isPopupOpen();
+    return m_layout.isInView(at) && !m_layout.covered.PtInRect(at) && !isPopupOpen();
 }
 
 void Events::mouseButton(int number, int action, int)

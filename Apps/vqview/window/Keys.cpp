@@ -25,8 +25,8 @@ std::optional<Key> letterOf(int key, int scanCode)
 {
     const char* name = glfwGetKeyName(key, scanCode);
     const std::string_view text = name ? name : "";
-    if (text.size() != 1)
-        return std::nullopt;
+    if (text.size() != 1) // a script without Latin letters: by the place on the keyboard
+        return key >= GLFW_KEY_A && key <= GLFW_KEY_Z ? std::optional(Key(key)) : std::nullopt;
     const int character = text[0];
     if (character >= 'a' && character <= 'z')
         return Key(character - 'a' + 'A');

@@ -16,6 +16,7 @@ struct Layout
     float scale = 1;                              ///< how much larger things are drawn than at 96 dots per inch
     int barHeight = 0;
     int panelWidth = 0; ///< 0 while it is hidden
+    CRect covered{};      ///< what stands over the view, in its pixels; empty when nothing does
 
     friend bool operator==(const Layout&, const Layout&) = default;
 

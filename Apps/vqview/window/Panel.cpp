@@ -54,6 +54,7 @@ void drawFiles(Session& session, FilePrompt& prompt)
     ImGui::SameLine();
     if (ImGui::Button("Defaults")) {
         CVQDrawProperty::Initialize();
+        session.setExchangesKeys(false);
         session.preferencesChanged();
     }
 }

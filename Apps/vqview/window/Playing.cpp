@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "vqview/window/Playing.h"
 
+#include "vqview/session/PictureFile.h"
 #include "vqview/session/Script.h"
 #include "vqview/session/Session.h"
 
@@ -19,7 +20,7 @@ bool keep(Session& session, const std::string& name, bool isReport)
         session.drawReportTo(picture);
     else
         session.drawFrameTo(picture);
-    return picture.Save((std::filesystem::path(name).wstring() + L".png").c_str());
+    return !writePicture(picture, name + ".png").empty();
 }
 
 } // namespace

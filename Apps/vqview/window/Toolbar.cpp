@@ -212,8 +212,8 @@ void drawFiles(Flow& flow, FilePrompt& prompt, bool hasModel)
     flow.gap();
 }
 
-/// At the centre of the window's lower edge, while a scan is read.
-void drawProgress(Session& session)
+/// At the centre of the window's lower edge, while a scan is read. @return its sides
+std::array<float, 4> drawProgress(Session& session)
 {
     const ImVec2 display = ImGui::GetIO().DisplaySize;
     ImGui::SetNextWindowPos({display.x / 2, display.y - ImGui::GetFontSize()}, ImGuiCond_Always, {0.5F, 1});
@@ -224,7 +224,9 @@ void drawProgress(Session& session)
     ImGui::SameLine();
     if (ImGui::Button("Cancel"))
         session.cancelLoading();
+    const ImVec2 at = ImGui::GetWindowPos(), size = ImGui::GetWindowSize();
     ImGui::End();
+    return {at.x, at.y, at.x + size.x, at.y + size.y};
 }
 
 } // namespace
@@ -246,8 +248,7 @@ void Toolbar::draw(Session& session, FilePrompt& prompt, bool& showsPanel)
         showsPanel = !showsPanel;
     m_height = ImGui::GetCursorPosY() - ImGui::GetStyle().ItemSpacing.y + ImGui::GetStyle().WindowPadding.y;
     ImGui::End();
-    if (session.isLoading())
-        drawProgress(session);
+    m_elsewhere = session.isLoading() ? drawProgress(session) : std::array<float, 4>();
 }
 
 } // namespace vqview

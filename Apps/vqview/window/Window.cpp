@@ -24,6 +24,8 @@ namespace vqview {
 
 namespace {
 
+constexpr wchar_t kRegistrySection[] = L"vqview";
+constexpr wchar_t kExchangeEntry[] = L"ExchangeCtrlAndShift";
 constexpr float kPanelWidth = 420;      // in 1/96 inch
 constexpr float kLargestPanel = 0.6f;   // of the window's width
 constexpr int kFramesAfterEvent = 3;    // Dear ImGui lays out in one what it learnt in the one before
@@ -71,8 +73,10 @@ class Host
 public:
     Host(GlfwWindow& window, Session& session, const WindowOptions& options)
         : m_window(window), m_session(session), m_echoes(options.echo), m_script(options.script),
-          m_events(window, m_layout, session), m_interface(window.handle())
+          m_events(window, m_layout, session), m_interface(window.handle()),
+          m_exchanges(CVQRegistry::GetProfileINT(kRegistrySection, kExchangeEntry, 0) != 0)
     {
+        session.setExchangesKeys(m_exchanges);
     }
 
     void run()
@@ -117,6 +121,14 @@ private:
         m_window.setTitle(m_session.model() ? m_session.model()->title : std::string());
         if (m_echoes)
             m_echo.follow(m_session);
+        keepExchange();
+    }
+
+    /// What the keys do is the user's preference, not the document's.
+    void keepExchange()
+    {
+        if (std::exchange(m_exchanges, m_session.exchangesKeys()) != m_session.exchangesKeys())
+            CVQRegistry::WriteProfileINT(kRegistrySection, kExchangeEntry, m_exchanges);
     }
 
     /// A monitor with another scale changes what fonts and the host's own drawing measure.
@@ -140,6 +152,8 @@ private:
                          display.y - m_toolbar.height());
         m_prompt.draw(m_session);
         m_layout.panelWidth = static_cast<int>(std::lround(width * m_layout.pixelsPerUnitX));
+        const auto& [left, top, right, bottom] = m_toolbar.elsewhere();
+        m_layout.covered = {m_layout.toView(left, top), m_layout.toView(right, bottom)};
         m_layout.barHeight = static_cast<int>(std::lround(m_toolbar.height() * m_layout.pixelsPerUnitY));
     }
 
@@ -156,6 +170,7 @@ private:
     FilePrompt m_prompt;
     Echo m_echo;
     bool m_showsPanel = false;
+    bool m_exchanges; // Ctrl and Shift, as the registry has it
     int m_framesDue = kFramesAfterEvent;
 };
 

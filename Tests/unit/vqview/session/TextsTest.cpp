@@ -58,11 +58,15 @@ TEST_F(Texts, TheStatusLineCountsThePolygonsCorners)
     session.setTool(Tool::Polygon);
     EXPECT_THAT(session.statusLine(), Not(HasSubstr("corner")));
     click({100, 100});
-    EXPECT_THAT(session.statusLine(), HasSubstr("1 corner,"));
+    EXPECT_THAT(session.statusLine(), HasSubstr("1 corner "));
     click({200, 100});
     EXPECT_THAT(session.statusLine(), HasSubstr("2 corners"));
+    EXPECT_THAT(session.statusLine(), Not(HasSubstr("Enter closes"))) << "there is nothing to close yet";
+    click({200, 200});
+    EXPECT_THAT(session.statusLine(), HasSubstr("3 corners, Enter closes"));
     session.key(Key::Backspace, {});
-    EXPECT_THAT(session.statusLine(), HasSubstr("1 corner,"));
+    session.key(Key::Backspace, {});
+    EXPECT_THAT(session.statusLine(), HasSubstr("1 corner "));
     session.key(Key::Escape, {});
     EXPECT_THAT(session.statusLine(), Not(HasSubstr("corner")));
 }
