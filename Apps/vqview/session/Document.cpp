@@ -12,6 +12,7 @@ namespace {
 
 constexpr std::array<char, 4> kMark{'V', 'Q', 'V', 'D'};
 constexpr BYTE kVersion = 1;
+constexpr const char* kCut = "cannot be read to its end";
 constexpr std::uint32_t kLongestPath = 0x8000; // bytes
 
 void writePreferences(CVQArchive* archive)
@@ -135,17 +136,23 @@ std::string writeDocument(const std::filesystem::path& path, Document& document)
     return failure.empty() ? failure : utf8Of(path.filename()) + " " + failure;
 }
 
-std::string readDocument(const std::filesystem::path& path, Document& document)
+std::string readDocument(CVQArchive& archive, Document& document)
 {
     PreferenceGuard guard;
+    std::string failure = guarded([&] { return read(archive, document); }, kCut);
+    if (failure.empty())
+        guard.keep();
+    return failure;
+}
+
+std::string readDocument(const std::filesystem::path& path, Document& document)
+{
     const std::string failure = guarded(
         [&] {
             CVQFileArchive archive(textOfPath(path), CVQFileArchive::load);
-            return read(archive, document);
+            return readDocument(archive, document);
         },
-        "cannot be read to its end");
-    if (failure.empty())
-        guard.keep();
+        kCut);
     return failure.empty() ? failure : utf8Of(path.filename()) + " " + failure;
 }
 

@@ -27,5 +27,7 @@ std::string writeDocument(const std::filesystem::path& path, Document& document)
 
 /// @return empty, or what failed; preferences are then what they were, and what `document` holds is of no use.
 std::string readDocument(const std::filesystem::path& path, Document& document);
+/// The same from any archive; the fault lacks the file's name.
+std::string readDocument(CVQArchive& archive, Document& document);
 
 } // namespace vqview
