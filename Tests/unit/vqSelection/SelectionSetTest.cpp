@@ -60,6 +60,20 @@ TEST(CVQSelectionSet, KeepsBitsBeyondItsSizeClearAroundWholeWords)
     }
 }
 
+TEST(CVQSelectionSet, IsOfNoPointsOnceItHasBeenMoved)
+{
+    CVQSelectionSet set(100);
+    set.SelectAll();
+    CVQSelectionSet taken(std::move(set));
+    EXPECT_EQ(taken.GetCount(), 100u);
+    EXPECT_EQ(set.GetSize(), 0u); // NOLINT: what is left is promised
+    EXPECT_FALSE(set.IsSelected(0));
+    set = std::move(taken);
+    EXPECT_EQ(set.GetCount(), 100u);
+    EXPECT_EQ(taken.GetSize(), 0u); // NOLINT
+    EXPECT_EQ(taken.GetWords(), nullptr);
+}
+
 TEST(CVQSelectionSet, ShowsItsBitsAsWords)
 {
     const CVQSelectionSet set = setOf(65, {0, 5, 63, 64});

@@ -248,6 +248,59 @@ TEST_F(Documents, ThatAreDamagedChangeNothing)
     EXPECT_TRUE(snapshot() == before);
 }
 
+TEST_F(Documents, FindTheirScanFromAnyFolder)
+{
+    const std::filesystem::path home = std::filesystem::current_path();
+    std::filesystem::current_path(nativePath(m_folder));
+    session.open("scan.obj");
+    waitForScan();
+    std::filesystem::current_path(home);
+    session.selectAll();
+    ASSERT_TRUE(session.saveDocument(path(L"all.vqd")));
+    session.show(bunny());
+    EXPECT_TRUE(session.openDocument(path(L"all.vqd")));
+    waitForScan();
+    EXPECT_EQ(session.selectedCount(), 4u);
+}
+
+TEST_F(Documents, FindTheirScanBesideThemWhenBothHaveMoved)
+{
+    session.selectAll();
+    ASSERT_TRUE(session.saveDocument(path(L"all.vqd")));
+    const std::filesystem::path folder = path(L"elsewhere");
+    std::filesystem::create_directory(folder);
+    std::filesystem::rename(path(L"all.vqd"), folder / "all.vqd");
+    std::filesystem::rename(path(L"scan.obj"), folder / "scan.obj");
+    session.show(bunny());
+    EXPECT_TRUE(session.openDocument(folder / "all.vqd"));
+    waitForScan();
+    EXPECT_EQ(session.selectedCount(), 4u);
+    std::filesystem::remove_all(folder);
+}
+
+TEST_F(Documents, AreKnownByTheirContentAndNamedByTheirKind)
+{
+    ASSERT_TRUE(session.saveDocument(path(L"mine")));
+    EXPECT_TRUE(std::filesystem::exists(path(L"mine.vqd")));
+    std::filesystem::rename(path(L"mine.vqd"), path(L"other.txt"));
+    EXPECT_TRUE(isDocument(path(L"other.txt")));
+    EXPECT_FALSE(isDocument(path(L"scan.obj")));
+    EXPECT_TRUE(isDocument(path(L"nowhere.VQD")));
+    session.selectAll();
+    session.open(path(L"other.txt"));
+    waitForScan();
+    EXPECT_EQ(session.selectedCount(), 0u) << "as it was when the document was saved";
+}
+
+TEST_F(Documents, OfAnotherScanHaveNothingOfTheOneBefore)
+{
+    session.texture().Clear(0x445566, 1);
+    ASSERT_TRUE(session.saveReport(path(L"report.png")));
+    session.show(bunny());
+    EXPECT_THAT(texelsOf(session.texture()), testing::Each(0));
+    EXPECT_EQ(session.reportImage().GetSize(), 1);
+}
+
 TEST_F(Documents, OfAScanThatHasChangedSayThatTheirSelectionIsOfAnother)
 {
     session.selectAll();

@@ -211,5 +211,14 @@ TEST_F(Pictures, WithoutAScanAreTheBackground)
     session.draw();
 }
 
+TEST_F(Pictures, TheReportIsTheSameWhetherItIsShownOrNot)
+{
+    session.shown().report = true;
+    const auto withIt = report();
+    session.shown().report = false;
+    EXPECT_EQ(report(), withIt) << "the scan has the colours that the bar explains";
+    EXPECT_FALSE(session.shown().report);
+}
+
 } // namespace
 } // namespace vqview::test
