@@ -49,6 +49,20 @@ std::filesystem::path native(const std::wstring& path)
     return path;
 }
 
+/// A file that somebody reads at the moment, another thread or a virus scanner, cannot be replaced until that is over.
+bool replace(const std::wstring& target, LPCWSTR by)
+{
+    constexpr int kAttempts = 100;
+    constexpr DWORD kPause = 5; // milliseconds
+    for (int attempt = 1; !MoveFileExW(by, target.c_str(), MOVEFILE_REPLACE_EXISTING); ++attempt) {
+        const DWORD error = GetLastError();
+        if (attempt == kAttempts || (error != ERROR_ACCESS_DENIED && error != ERROR_SHARING_VIOLATION))
+            return false;
+        Sleep(kPause);
+    }
+    return true;
+}
+
 #else
 
 struct Free
@@ -87,6 +101,11 @@ bool reachesDisk(std::FILE* file)
 std::filesystem::path native(const std::wstring& path)
 {
     return win32::nativePath(path.c_str());
+}
+
+bool replace(const std::wstring& target, LPCWSTR by)
+{
+    return MoveFileExW(by, target.c_str(), MOVEFILE_REPLACE_EXISTING);
 }
 
 #endif
@@ -159,7 +178,7 @@ bool ReplacementFile::commit(OldFile old)
         return false;
     if (old == OldFile::KeptBeside)
         keepOld();
-    if (!MoveFileExW(path(), m_target.c_str(), MOVEFILE_REPLACE_EXISTING))
+    if (!replace(m_target, path()))
         return false;
     m_name.clear();
     return true;
