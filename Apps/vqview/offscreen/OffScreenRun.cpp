@@ -4,13 +4,12 @@
 #include "support/Gallery.h"
 #include "support/offscreen/OffScreenContext.h"
 #include "vqview/session/Script.h"
+#include "vqview/session/ScriptHost.h"
 #include "vqview/session/Session.h"
 #include "vqview/session/Waiting.h"
 #include "vqview/text/Text.h"
 
 #include <cstdio>
-#include <fstream>
-#include <iterator>
 #include <optional>
 
 namespace vqview {
@@ -23,17 +22,6 @@ int fail(const std::string& what)
 {
     std::fprintf(stderr, "vqview: %s\n", what.c_str());
     return 1;
-}
-
-std::optional<std::string> textOf(const std::filesystem::path& file)
-{
-    std::error_code error;
-    if (!std::filesystem::is_regular_file(file, error))
-        return std::nullopt;
-    std::ifstream stream(file, std::ios::binary);
-    if (!stream)
-        return std::nullopt;
-    return std::string{std::istreambuf_iterator<char>(stream), {}};
 }
 
 /// A session with a picture of its own to draw into, which changes with the size asked for.
@@ -67,10 +55,7 @@ private:
 bool keepPicture(Session& session, Gallery& gallery, const std::string& name, const std::string& caption, bool isReport)
 {
     CVQDIB picture(session.width(), session.height());
-    if (isReport)
-        session.drawReportTo(picture);
-    else
-        session.drawFrameTo(picture);
+    drawKept(session, isReport, picture);
     return gallery.add(picture, name, caption);
 }
 
@@ -78,7 +63,7 @@ bool keepPicture(Session& session, Gallery& gallery, const std::string& name, co
 
 int runOffScreen(const OffScreenOptions& options)
 {
-    const std::optional<std::string> script = textOf(options.script);
+    const std::optional<std::string> script = scriptOf(options.script);
     if (!script)
         return fail("there is no script '" + utf8Of(options.script) + "'");
     Studio studio;

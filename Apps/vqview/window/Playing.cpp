@@ -3,11 +3,11 @@
 
 #include "vqview/session/PictureFile.h"
 #include "vqview/session/Script.h"
+#include "vqview/session/ScriptHost.h"
 #include "vqview/session/Session.h"
+#include "vqview/text/Text.h"
 
-#include <fstream>
 #include <iostream>
-#include <iterator>
 
 namespace vqview {
 
@@ -16,10 +16,7 @@ namespace {
 bool keep(Session& session, const std::string& name, bool isReport)
 {
     CVQDIB picture(session.width(), session.height());
-    if (isReport)
-        session.drawReportTo(picture);
-    else
-        session.drawFrameTo(picture);
+    drawKept(session, isReport, picture);
     return !writePicture(picture, name + ".png").empty();
 }
 
@@ -27,20 +24,19 @@ bool keep(Session& session, const std::string& name, bool isReport)
 
 void playScript(Session& session, const std::filesystem::path& script)
 {
-    std::ifstream stream(script, std::ios::binary);
-    if (!stream) {
-        std::cerr << "vqview: there is no script " << script << '\n';
+    const std::optional<std::string> text = scriptOf(script);
+    if (!text) {
+        std::cerr << "vqview: there is no script '" << utf8Of(script) << "'\n";
         return;
     }
-    const std::string text{std::istreambuf_iterator<char>(stream), {}};
     ScriptStage stage{
         session,
         nullptr,
         [&](const std::string& name, const std::string&, bool isReport) { return keep(session, name, isReport); },
         [](const std::string& line) { std::cout << line << std::endl; },
     };
-    for (const std::string& fault : runScript(text, stage))
-        std::cerr << "vqview: " << script.filename() << ", " << fault << '\n';
+    for (const std::string& fault : runScript(*text, stage))
+        std::cerr << "vqview: " << utf8Of(script.filename()) << ", " << fault << '\n';
     std::cout << "played" << std::endl;
 }
 
