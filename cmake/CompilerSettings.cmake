@@ -38,6 +38,15 @@ function(vq_precompile target)
     target_precompile_headers(${target} PRIVATE <algorithm> <memory> <optional> <span> <string> <vector> ${ARGN})
 endfunction()
 
+# Files that make the same templates of the same headers take half the time when several are compiled as one (the 12 of
+# draw's tests: 19 s alone, 9 s six at a time). Other files stay alone: each includes what it needs.
+set(VQDRAW_FILES_AT_ONCE 8 CACHE STRING "Files of tests that are compiled as one; 1: each alone")
+function(vq_compile_together target)
+    if(VQDRAW_FILES_AT_ONCE GREATER 1)
+        set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE ${VQDRAW_FILES_AT_ONCE})
+    endif()
+endfunction()
+
 # vq_kernel(name LIBRARIES ... SOURCES ...): routines that are not exported. Compiled once, for the library that they
 # are part of and for the tests that reach them.
 function(vq_kernel target)

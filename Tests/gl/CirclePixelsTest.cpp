@@ -3,7 +3,7 @@
 
 #include <numbers>
 
-namespace vq::test {
+namespace vq::test::circlePixelsTests {
 namespace {
 
 constexpr int kCentreX = 80;
@@ -99,4 +99,4 @@ TEST_F(CirclePixels, AreNoneOfAnIdleCircleOrOfARadiusThatIsNoNumber)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::circlePixelsTests

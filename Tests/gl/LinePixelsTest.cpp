@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "gl/Scene.h"
 
-namespace vq::test {
+namespace vq::test::linePixelsTests {
 namespace {
 
 constexpr LONG kAlpha = 200;
@@ -125,4 +125,4 @@ TEST_F(LinePixels, AreNoneOfAnIdleLine)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::linePixelsTests

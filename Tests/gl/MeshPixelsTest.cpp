@@ -8,7 +8,7 @@
 #include <numbers>
 #include <utility>
 
-namespace vq::test {
+namespace vq::test::meshPixelsTests {
 namespace {
 
 using Facade = CVQDrawingAPI;
@@ -257,4 +257,4 @@ TEST_F(LitMeshes, AreAsRoundAsGLUsOwnQuadrics)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::meshPixelsTests

@@ -3,7 +3,7 @@
 
 #include <initializer_list>
 
-namespace vq::test {
+namespace vq::test::polygonPixelsTests {
 namespace {
 
 constexpr LONG kAlpha = 200;
@@ -131,4 +131,4 @@ TEST_F(PolygonPixels, AreNoneOfAnIdlePolygon)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::polygonPixelsTests

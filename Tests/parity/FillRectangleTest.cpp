@@ -2,7 +2,7 @@
 #include "parity/KnownDifferences.h"
 #include "parity/Pixels.h"
 
-namespace vq::test {
+namespace vq::test::fillRectangleTests {
 namespace {
 
 constexpr std::uint32_t kRed = 0xFFFF0000;
@@ -93,4 +93,4 @@ TEST(FillRectangle, NullBrushIsInvalid)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::fillRectangleTests

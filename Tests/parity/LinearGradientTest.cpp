@@ -5,7 +5,7 @@
 #include <array>
 #include <memory>
 
-namespace vq::test {
+namespace vq::test::linearGradientTests {
 namespace {
 
 using namespace Gdiplus;
@@ -280,4 +280,4 @@ TEST(LinearGradient, CloneDrawsTheSame)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::linearGradientTests

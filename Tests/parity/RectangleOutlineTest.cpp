@@ -2,7 +2,7 @@
 #include "parity/Drawn.h"
 #include "parity/KnownDifferences.h"
 
-namespace vq::test {
+namespace vq::test::rectangleOutlineTests {
 namespace {
 
 using namespace Gdiplus;
@@ -168,4 +168,4 @@ TEST(DrawRectangle, NeedsAPen)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::rectangleOutlineTests

@@ -7,7 +7,7 @@
 
 #include <numbers>
 
-namespace vq::test {
+namespace vq::test::smoothingTests {
 namespace {
 
 using namespace Gdiplus;
@@ -225,4 +225,4 @@ TEST(PixelOffset, OfHalfAPixelMakesSmoothedFillsCrisp)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::smoothingTests

@@ -6,7 +6,7 @@
 #include <cstring>
 #include <memory>
 
-namespace vq::test {
+namespace vq::test::textTests {
 namespace {
 
 using namespace Gdiplus;
@@ -359,4 +359,4 @@ TEST(TextOnAContext, ReachesTheSelectedBitmap)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::textTests

@@ -7,7 +7,7 @@
 
 #include <memory>
 
-namespace vq::test {
+namespace vq::test::widenTests {
 namespace {
 
 using namespace Gdiplus;
@@ -181,4 +181,4 @@ TEST(Widen, NeedsAPenAndSomethingToWiden)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::widenTests

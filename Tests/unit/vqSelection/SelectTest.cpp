@@ -5,6 +5,7 @@
 
 #include <limits>
 
+namespace vq::test::selectTests {
 namespace {
 
 using namespace vq::test;
@@ -140,3 +141,4 @@ TEST(Select, ReachesBeyondTheViewportWhereHiddenPointsCount)
 }
 
 } // namespace
+} // namespace vq::test::selectTests

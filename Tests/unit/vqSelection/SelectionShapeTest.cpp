@@ -6,6 +6,7 @@
 #include <cmath>
 #include <limits>
 
+namespace vq::test::selectionShapeTests {
 namespace {
 
 constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
@@ -183,3 +184,4 @@ TEST(CVQSelectionShape, TakesADragThatMovedBeyond32BitsWhereItCameOut)
 }
 
 } // namespace
+} // namespace vq::test::selectionShapeTests

@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+namespace vq::test::cArrayTests {
 namespace {
 
 using Numbers = CArray<int, int>;
@@ -285,3 +286,4 @@ TEST(CStringArray, HoldsStrings)
 }
 
 } // namespace
+} // namespace vq::test::cArrayTests

@@ -10,6 +10,7 @@
 #include <random>
 #include <string>
 
+namespace vq::test::cStringEditTests {
 namespace {
 
 constexpr int kMost = std::numeric_limits<int>::max();
@@ -192,3 +193,4 @@ TEST(CStringEditing, AgreesWithTheStandardLibrary)
 }
 
 } // namespace
+} // namespace vq::test::cStringEditTests

@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+namespace vq::test::cStringPartsTests {
 namespace {
 
 constexpr int kMost = std::numeric_limits<int>::max();
@@ -180,3 +181,4 @@ TEST(CStringTokenizing, WithoutSeparatorsGivesTheRestAndLeavesThePosition)
 }
 
 } // namespace
+} // namespace vq::test::cStringPartsTests

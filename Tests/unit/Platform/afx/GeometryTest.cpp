@@ -7,6 +7,7 @@
 #include <limits>
 #include <vector>
 
+namespace vq::test::geometryTests {
 namespace {
 
 constexpr LONG kMost = std::numeric_limits<LONG>::max();
@@ -210,3 +211,4 @@ TEST(CRectConversion, ServesSystemCalls)
 }
 
 } // namespace
+} // namespace vq::test::geometryTests

@@ -7,6 +7,7 @@
 #include <limits>
 #include <vector>
 
+namespace vq::test::bitmapsTests {
 namespace {
 
 using ::testing::Each;
@@ -345,3 +346,4 @@ TEST_F(BitmapRows, AreRefusedWithoutContextBitmapOrHeader)
 }
 
 } // namespace
+} // namespace vq::test::bitmapsTests

@@ -6,6 +6,7 @@
 #include <random>
 #include <vector>
 
+namespace vq::test::drawingTests {
 namespace {
 
 using ::testing::ElementsAre;
@@ -219,3 +220,4 @@ TEST(GetPixel, IsInvalidOutsideTheSurface)
 }
 
 } // namespace
+} // namespace vq::test::drawingTests

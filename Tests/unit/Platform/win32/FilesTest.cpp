@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+namespace vq::test::filesTests {
 namespace {
 
 constexpr DWORD kNone = INVALID_FILE_ATTRIBUTES;
@@ -235,3 +236,4 @@ TEST(GetModuleHandleEx, FindsTheModuleOfAnAddress)
 }
 
 } // namespace
+} // namespace vq::test::filesTests

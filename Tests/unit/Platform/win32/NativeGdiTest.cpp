@@ -15,6 +15,7 @@
 #include <thread>
 #include <vector>
 
+namespace vq::test::nativeGdiTests {
 namespace {
 
 using vq::win32::Surface;
@@ -300,3 +301,4 @@ TEST(GdiObjects, AreMadeAndDeletedByManyThreads)
 }
 
 } // namespace
+} // namespace vq::test::nativeGdiTests

@@ -6,6 +6,7 @@
 #include <limits>
 #include <random>
 
+namespace vq::test::numbersTests {
 namespace {
 
 constexpr int kMost = std::numeric_limits<int>::max();
@@ -101,3 +102,4 @@ TEST(ColorRGBToHLS, StaysInItsRangesForAllColours)
 }
 
 } // namespace
+} // namespace vq::test::numbersTests

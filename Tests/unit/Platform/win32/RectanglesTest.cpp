@@ -5,6 +5,7 @@
 #include <limits>
 #include <ostream>
 
+namespace vq::test::rectanglesTests {
 namespace {
 
 constexpr LONG kMost = std::numeric_limits<LONG>::max();
@@ -159,3 +160,4 @@ TEST(Rectangles, RefuseNullWithoutHarm)
 }
 
 } // namespace
+} // namespace vq::test::rectanglesTests

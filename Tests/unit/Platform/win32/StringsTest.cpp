@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+namespace vq::test::stringsTests {
 namespace {
 
 std::wstring toWide(UINT codePage, std::string_view bytes, DWORD flags = 0)
@@ -156,3 +157,4 @@ TEST(Conversion, RefusesArgumentsThatMakeNoSense)
 }
 
 } // namespace
+} // namespace vq::test::stringsTests

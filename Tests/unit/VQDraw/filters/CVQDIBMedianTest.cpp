@@ -5,7 +5,7 @@
 #include <iterator>
 #include <limits>
 
-namespace vq::test {
+namespace vq::test::cvqdibMedianTests {
 namespace {
 
 constexpr LONG kMax = std::numeric_limits<LONG>::max();
@@ -132,4 +132,4 @@ TEST(CVQDIBMedian, DoesNothingBelowThreeRowsOrColumns)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::cvqdibMedianTests

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <limits>
 
-namespace vq::test {
+namespace vq::test::cvqdibSmoothTests {
 namespace {
 
 constexpr LONG kMax = std::numeric_limits<LONG>::max();
@@ -212,4 +212,4 @@ TEST(CVQDIBSmooth, ApproachesTheMeanOfTheImageWhateverTheRadius)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::cvqdibSmoothTests

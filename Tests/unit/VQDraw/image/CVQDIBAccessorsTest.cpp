@@ -4,7 +4,7 @@
 
 #include <limits>
 
-namespace vq::test {
+namespace vq::test::cvqdibAccessorsTests {
 namespace {
 
 using Access = VQTestAccess;
@@ -202,4 +202,4 @@ TEST(CVQDIBAccessors, OffsetsInAnEmptyImageCountColumnsOnly)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::cvqdibAccessorsTests

@@ -5,7 +5,7 @@
 #include <limits>
 #include <utility>
 
-namespace vq::test {
+namespace vq::test::cvqdibClearTests {
 namespace {
 
 constexpr LONG kMax = std::numeric_limits<LONG>::max();
@@ -289,4 +289,4 @@ TEST(CVQDIBClearScanlineAlpha, DoesNothingOutsideTheImage)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::cvqdibClearTests

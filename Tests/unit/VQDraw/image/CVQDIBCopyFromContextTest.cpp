@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace vq::test {
+namespace vq::test::cvqdibCopyFromContextTests {
 namespace {
 
 constexpr ULONG kBefore = 0x40102030;
@@ -151,4 +151,4 @@ TEST(CVQDIBCopyFromContext, TakesWhatAnotherImageShowed)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::cvqdibCopyFromContextTests

@@ -4,7 +4,7 @@
 
 #include <limits>
 
-namespace vq::test {
+namespace vq::test::cvqdibCopyTests {
 namespace {
 
 constexpr LONG kMax = std::numeric_limits<LONG>::max();
@@ -174,4 +174,4 @@ TEST(CVQDIBCopy, OverlappingBlocksGoRowByRowFromTheTop)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::cvqdibCopyTests

@@ -5,7 +5,7 @@
 
 #include <limits>
 
-namespace vq::test {
+namespace vq::test::cvqdibCreateTests {
 namespace {
 
 using Access = VQTestAccess;
@@ -267,4 +267,4 @@ TEST(CVQDIBDestroy, MayBeRepeatedAndFollowedByCreate)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::cvqdibCreateTests

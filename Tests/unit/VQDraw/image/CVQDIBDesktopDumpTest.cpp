@@ -3,7 +3,7 @@
 #include "parity/KnownDifferences.h"
 #include "support/DeviceContexts.h"
 
-namespace vq::test {
+namespace vq::test::cvqdibDesktopDumpTests {
 namespace {
 
 constexpr COLORREF kBefore = RGB(0x20, 0x40, 0x60);
@@ -102,4 +102,4 @@ TEST_F(CVQDIBDesktopDump, OutsideTheScreenShowsNothing)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::cvqdibDesktopDumpTests

@@ -3,7 +3,7 @@
 
 #include <utility>
 
-namespace vq::test {
+namespace vq::test::cvqdibFlipTests {
 namespace {
 
 constexpr std::pair<int, int> kSizes[] = {{1, 1}, {5, 1},  {1, 2},  {1, 7},   {2, 2},   {3, 3},
@@ -124,4 +124,4 @@ TEST(CVQDIBExchangeRB, TwiceChangesNothing)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::cvqdibFlipTests

@@ -7,7 +7,7 @@
 #include <cmath>
 #include <limits>
 
-namespace vq::test {
+namespace vq::test::cvqdibResizeTests {
 namespace {
 
 using Access = VQTestAccess;
@@ -277,4 +277,4 @@ TEST(CVQDIBResize, KeepsTheFlagsAndAppliesThemToTheNewGraphics)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::cvqdibResizeTests

@@ -3,7 +3,7 @@
 
 #include <limits>
 
-namespace vq::test {
+namespace vq::test::cvqdibSaturateAlphaTests {
 namespace {
 
 constexpr LONG kMax = std::numeric_limits<LONG>::max();
@@ -139,4 +139,4 @@ TEST(CVQDIBSaturateScanlineAlpha, DoesNothingOutsideTheImage)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::cvqdibSaturateAlphaTests

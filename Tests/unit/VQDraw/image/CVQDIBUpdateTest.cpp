@@ -7,7 +7,7 @@
 #include <cstdlib>
 #include <functional>
 
-namespace vq::test {
+namespace vq::test::cvqdibUpdateTests {
 namespace {
 
 constexpr LONG kWidth = 7;
@@ -215,4 +215,4 @@ TEST(CVQDIBUpdate, ShowsALargerPictureExactly)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::cvqdibUpdateTests

@@ -6,7 +6,7 @@
 #include <span>
 #include <string>
 
-namespace vq::test {
+namespace vq::test::largePictureTests {
 namespace {
 
 // More than a million pixels and no whole number of blocks or pages.
@@ -124,4 +124,4 @@ TEST(LargePictureClear, FillsEveryPixel)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::largePictureTests

@@ -6,7 +6,7 @@
 
 #include <cwchar>
 
-namespace vq::test {
+namespace vq::test::cvqFontLegacyTests {
 namespace {
 
 /// A record none of whose values is 0.
@@ -235,4 +235,4 @@ TEST(LegacyFont, ReadsLongLinesInPieces)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::cvqFontLegacyTests

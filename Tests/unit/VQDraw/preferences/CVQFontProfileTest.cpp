@@ -5,7 +5,7 @@
 #include "support/TemporaryFolder.h"
 #include "vqCommonBase/VQRegistry.h"
 
-namespace vq::test {
+namespace vq::test::cvqFontProfileTests {
 namespace {
 
 CVQFont someFont()
@@ -221,4 +221,4 @@ TEST_F(FontInRegistry, KeepsWhatIsMissing)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::cvqFontProfileTests

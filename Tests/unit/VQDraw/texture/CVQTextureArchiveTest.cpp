@@ -6,7 +6,7 @@
 
 #include <random>
 
-namespace vq::test {
+namespace vq::test::cvqTextureArchiveTests {
 namespace {
 
 using Texels = std::vector<LONG>;
@@ -190,4 +190,4 @@ TEST(TextureStatics, AreThoseOfTheImage)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::cvqTextureArchiveTests

@@ -8,7 +8,7 @@
 
 #include <limits>
 
-namespace vq::test {
+namespace vq::test::cvqTextureTests {
 namespace {
 
 /// The protected members at hand.
@@ -349,4 +349,4 @@ TEST(TextureOutline, OfANegativeWidthIsOneWide)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::cvqTextureTests

@@ -8,6 +8,7 @@
 #include <random>
 #include <set>
 
+namespace vq::test::finishTests {
 namespace {
 
 using namespace vqview;
@@ -136,3 +137,4 @@ TEST(Finish, StopsWhenCancelled)
 }
 
 } // namespace
+} // namespace vq::test::finishTests

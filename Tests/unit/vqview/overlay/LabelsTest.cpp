@@ -5,7 +5,7 @@
 
 #include <cmath>
 
-namespace vqview::test {
+namespace vqview::test::labelsTests {
 namespace {
 
 constexpr int kWidth = 800;
@@ -220,4 +220,4 @@ TEST_F(Labels, TakeTheColourOfTheirFont)
 }
 
 } // namespace
-} // namespace vqview::test
+} // namespace vqview::test::labelsTests

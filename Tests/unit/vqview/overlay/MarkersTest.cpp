@@ -4,7 +4,7 @@
 
 #include <cmath>
 
-namespace vqview::test {
+namespace vqview::test::markersTests {
 namespace {
 
 class Markers : public FrameTest
@@ -149,4 +149,4 @@ TEST_F(Markers, OfBoundsAreTheirEdges)
 }
 
 } // namespace
-} // namespace vqview::test
+} // namespace vqview::test::markersTests

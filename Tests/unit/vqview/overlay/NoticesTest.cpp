@@ -4,7 +4,7 @@
 #include "vqview/overlay/Panels.h"
 #include "vqview/text/Text.h"
 
-namespace vqview::test {
+namespace vqview::test::noticesTests {
 namespace {
 
 class Notices : public StoreTest
@@ -125,4 +125,4 @@ TEST(TextStyle, ReadsUtf8)
 }
 
 } // namespace
-} // namespace vqview::test
+} // namespace vqview::test::noticesTests

@@ -8,7 +8,7 @@
 #include <limits>
 #include <numeric>
 
-namespace vqview::test {
+namespace vqview::test::reportImageTests {
 namespace {
 
 constexpr int kWidth = 800;
@@ -205,4 +205,4 @@ TEST_F(ReportImage, OfAMillionValuesIsWhole)
 }
 
 } // namespace
-} // namespace vqview::test
+} // namespace vqview::test::reportImageTests

@@ -3,7 +3,7 @@
 #include "unit/vqview/overlay/OverlayFixture.h"
 #include "vqview/overlay/Notices.h"
 
-namespace vqview::test {
+namespace vqview::test::reportLayoutTests {
 namespace {
 
 constexpr std::array kWidths{320, 400, 640, 1024, 1920, 3840};
@@ -188,4 +188,4 @@ TEST_F(ReportLayoutTest, TakesFactsFromTheScan)
 }
 
 } // namespace
-} // namespace vqview::test
+} // namespace vqview::test::reportLayoutTests

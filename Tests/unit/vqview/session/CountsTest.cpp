@@ -6,7 +6,7 @@
 #include <cmath>
 #include <numbers>
 
-namespace vqview::test {
+namespace vqview::test::countsTests {
 namespace {
 
 const ScanOfFile& scan()
@@ -258,4 +258,4 @@ TEST_P(HeldKeys, UndoAndRedoGoThroughAllOfIt)
 }
 
 } // namespace
-} // namespace vqview::test
+} // namespace vqview::test::countsTests

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-namespace vqview::test {
+namespace vqview::test::visibleTests {
 namespace {
 
 struct Look
@@ -149,4 +149,4 @@ TEST_F(Visible, StaysTheSameWithLabelsReportAndEdgesOverIt)
 }
 
 } // namespace
-} // namespace vqview::test
+} // namespace vqview::test::visibleTests

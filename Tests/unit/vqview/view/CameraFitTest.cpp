@@ -4,7 +4,7 @@
 #include <limits>
 #include <numbers>
 
-namespace vqview::test {
+namespace vqview::test::cameraFitTests {
 namespace {
 
 constexpr float kInfinity = std::numeric_limits<float>::infinity();
@@ -128,4 +128,4 @@ TEST(CameraFit, TakesTheWholeWindowAsViewport)
 }
 
 } // namespace
-} // namespace vqview::test
+} // namespace vqview::test::cameraFitTests

@@ -4,7 +4,7 @@
 #include <limits>
 #include <random>
 
-namespace vqview::test {
+namespace vqview::test::cameraMoveTests {
 namespace {
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
@@ -231,4 +231,4 @@ TEST_P(RandomWalk, OnlyGivesMatricesOfFiniteNumbersThatCanBeInverted)
 }
 
 } // namespace
-} // namespace vqview::test
+} // namespace vqview::test::cameraMoveTests

@@ -8,7 +8,7 @@
 
 #include <cstdlib>
 
-namespace vq::test {
+namespace vq::test::gifTests {
 namespace {
 
 using gdiplus::decodeGif;
@@ -323,4 +323,4 @@ TEST(GifRoundTrip, PicturesOfOnePaletteStayWhatTheyAre)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::gifTests

@@ -20,7 +20,7 @@
 
 #include <malloc.h>
 
-namespace vq::test {
+namespace vq::test::hostileFilesTests {
 namespace {
 
 using gdiplus::decodePicture;
@@ -439,4 +439,4 @@ TEST(AbsurdSizes, StripsThatShareBytesAreNoEndlessWork)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::hostileFilesTests

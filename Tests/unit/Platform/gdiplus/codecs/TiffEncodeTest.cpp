@@ -7,7 +7,7 @@
 
 #include <limits>
 
-namespace vq::test {
+namespace vq::test::tiffEncodeTests {
 namespace {
 
 using gdiplus::decodeTiff;
@@ -134,4 +134,4 @@ TEST(TiffEncode, RefusesAPictureWithoutPixels)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::tiffEncodeTests

@@ -6,7 +6,7 @@
 
 #include <array>
 
-namespace vq::gdiplus {
+namespace vq::gdiplus::compositeRowTests {
 
 namespace {
 
@@ -218,4 +218,4 @@ TEST(CompositeRow, CopyUnderCoverageIsExactForEveryPairOfAlphas)
     }
 }
 
-} // namespace vq::gdiplus
+} // namespace vq::gdiplus::compositeRowTests

@@ -6,7 +6,7 @@
 #include <array>
 #include <span>
 
-namespace vq::gdiplus {
+namespace vq::gdiplus::mixColumnsTests {
 
 namespace {
 
@@ -89,4 +89,4 @@ TEST(MixedLane, IsBelowTheExactValueByLessThanThreeAndKeepsEqualChannels)
     }
 }
 
-} // namespace vq::gdiplus
+} // namespace vq::gdiplus::mixColumnsTests

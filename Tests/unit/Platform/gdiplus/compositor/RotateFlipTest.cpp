@@ -6,7 +6,7 @@
 #include <random>
 #include <vector>
 
-namespace vq::gdiplus {
+namespace vq::gdiplus::rotateFlipTests {
 namespace {
 
 constexpr Pixel kGuard = 0xDEADBEEF;
@@ -93,4 +93,4 @@ TEST(RotateFlip, LargePicturesAreStreamed)
 }
 
 } // namespace
-} // namespace vq::gdiplus
+} // namespace vq::gdiplus::rotateFlipTests

@@ -9,7 +9,7 @@
 #include <numbers>
 #include <random>
 
-namespace vq::test {
+namespace vq::test::exactCoverageTests {
 namespace {
 
 constexpr double kPi = std::numbers::pi;
@@ -122,4 +122,4 @@ TEST(Outlines, RefuseWhatIsNotTheirShape)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::exactCoverageTests

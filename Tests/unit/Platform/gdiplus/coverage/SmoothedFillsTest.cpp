@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <numbers>
 
-namespace vq::test {
+namespace vq::test::smoothedFillsTests {
 namespace {
 
 using namespace Gdiplus;
@@ -174,4 +174,4 @@ TEST_F(SmoothedFill, MovesByHalfAPixelWithThePixelOffset)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::smoothedFillsTests

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <numbers>
 
-namespace vq::test {
+namespace vq::test::smoothedStrokesTests {
 namespace {
 
 using namespace Gdiplus;
@@ -311,4 +311,4 @@ TEST_F(SmoothedStroke, OfTranslucentPensIsTheirShareAlsoAtCorners)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::smoothedStrokesTests

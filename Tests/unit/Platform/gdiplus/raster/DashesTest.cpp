@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vq::test {
+namespace vq::test::dashesTests {
 namespace {
 
 constexpr Bounds kEverywhere{-1e9, -1e9, 1e9, 1e9};
@@ -114,4 +114,4 @@ TEST(CutDashes, OnlyTheFirstAndTheLastDashTouchTheEndsOfTheLine)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::dashesTests

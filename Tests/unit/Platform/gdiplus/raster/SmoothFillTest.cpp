@@ -7,7 +7,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vq::test {
+namespace vq::test::smoothFillTests {
 namespace {
 
 constexpr int kSize = 40;
@@ -167,4 +167,4 @@ TEST(ShapeRenderer, TakesNothingFromAnEmptyShapeOrOneOutside)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::smoothFillTests

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vq::test {
+namespace vq::test::smoothLineTests {
 namespace {
 
 constexpr int kSize = 48;
@@ -94,4 +94,4 @@ TEST(SmoothLine, LeavesWideAndFarLinesToOutlines)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::smoothLineTests

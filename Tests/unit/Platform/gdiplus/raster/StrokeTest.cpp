@@ -7,7 +7,7 @@
 
 #include <numbers>
 
-namespace vq::test {
+namespace vq::test::strokeTests {
 namespace {
 
 constexpr Bounds kEverywhere{-1e9, -1e9, 1e9, 1e9};
@@ -181,4 +181,4 @@ TEST(Stroke, InsetMovesTheEdgesOfClosedFiguresInwards)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::strokeTests

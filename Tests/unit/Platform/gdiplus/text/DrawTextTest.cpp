@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+namespace vq::test::drawTextTests {
 namespace {
 
 using namespace vq::test;
@@ -277,3 +278,4 @@ TEST(RenderingOfHint, FollowsTheTableOfHints)
 }
 
 } // namespace
+} // namespace vq::test::drawTextTests

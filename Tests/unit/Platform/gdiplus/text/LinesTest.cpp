@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+namespace vq::test::linesTests {
 namespace {
 
 using namespace vq::gdiplus;
@@ -166,3 +167,4 @@ TEST(Lines, StopAtTheirNumber)
 }
 
 } // namespace
+} // namespace vq::test::linesTests

@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+namespace vq::test::measureTextTests {
 namespace {
 
 using namespace vq::test;
@@ -239,3 +240,4 @@ TEST_F(MeasureText, DoesNotBreakBehindAHyphen)
 }
 
 } // namespace
+} // namespace vq::test::measureTextTests

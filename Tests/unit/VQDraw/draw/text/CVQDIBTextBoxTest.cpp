@@ -3,7 +3,7 @@
 
 #include <limits>
 
-namespace vq::test {
+namespace vq::test::cvqdibTextBoxTests {
 namespace {
 
 constexpr LONG kEm = 16;
@@ -91,4 +91,4 @@ TEST_F(CVQDIBTextBox, BeyondAllCoordinatesEndsAtTheLastOne)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::cvqdibTextBoxTests

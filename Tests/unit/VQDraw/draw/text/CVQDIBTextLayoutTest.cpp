@@ -4,7 +4,7 @@
 #include <cmath>
 #include <limits>
 
-namespace vq::test {
+namespace vq::test::cvqdibTextLayoutTests {
 namespace {
 
 constexpr LONG kEm = 16;
@@ -200,4 +200,4 @@ TEST_F(CVQDIBTextLayout, TakesEveryRectangle)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::cvqdibTextLayoutTests

@@ -2,7 +2,7 @@
 // Text line by line over backgrounds.
 #include "unit/VQDraw/draw/text/TextPictures.h"
 
-namespace vq::test {
+namespace vq::test::cvqdibTextLinesTests {
 namespace {
 
 constexpr LONG kEm = 16;
@@ -148,4 +148,4 @@ TEST_F(CVQDIBTextLines, LeaveTheRectangleAndTheTextAlone)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::cvqdibTextLinesTests

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "unit/VQDraw/draw/text/TextPictures.h"
 
-namespace vq::test {
+namespace vq::test::cvqdibTextShadowTests {
 namespace {
 
 using Access = VQTestAccess;
@@ -145,4 +145,4 @@ TEST_F(CVQDIBTextShadow, OfNothingIsNothing)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::cvqdibTextShadowTests

@@ -4,7 +4,7 @@
 
 #include <thread>
 
-namespace vq::test {
+namespace vq::test::cvqdibTextSizeTests {
 namespace {
 
 constexpr LONG kEm = 24;
@@ -188,4 +188,4 @@ TEST(CVQDIBTextSize, IsKnownWhenTheHostHasStartedGdiplusByItself)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::cvqdibTextSizeTests

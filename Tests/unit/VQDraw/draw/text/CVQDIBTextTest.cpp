@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <limits>
 
-namespace vq::test {
+namespace vq::test::cvqdibTextTests {
 namespace {
 
 constexpr LONG kEm = 24;
@@ -163,4 +163,4 @@ TEST_F(CVQDIBText, DoesNotDependOnAntialiasing)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::cvqdibTextTests

@@ -6,7 +6,7 @@
 #include <cmath>
 #include <limits>
 
-namespace vq::test {
+namespace vq::test::cvqDragCircleTests {
 namespace {
 
 using Data = VQTestAccess::ShapeData<CVQDragCircle>;
@@ -175,4 +175,4 @@ TEST(CVQDragCircle, CarriesPointsUntilItIsReset)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::cvqDragCircleTests

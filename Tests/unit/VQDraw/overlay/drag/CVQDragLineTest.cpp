@@ -7,7 +7,7 @@
 #include <cmath>
 #include <limits>
 
-namespace vq::test {
+namespace vq::test::cvqDragLineTests {
 namespace {
 
 using Data = VQTestAccess::ShapeData<CVQDragLine>;
@@ -132,4 +132,4 @@ TEST(CVQDragLine, SpansAllCoordinates)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::cvqDragLineTests

@@ -6,7 +6,7 @@
 #include <limits>
 #include <vector>
 
-namespace vq::test {
+namespace vq::test::cvqDragPolygonTests {
 namespace {
 
 using Data = VQTestAccess::ShapeData<CVQDragPolygon>;
@@ -199,4 +199,4 @@ TEST(CVQDragPolygon, KeepsManyVertices)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::cvqDragPolygonTests

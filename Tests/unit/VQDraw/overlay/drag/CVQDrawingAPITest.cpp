@@ -6,7 +6,7 @@
 
 #include <cmath>
 
-namespace vq::test {
+namespace vq::test::cvqDrawingAPITests {
 namespace {
 
 using Facade = CVQDrawingAPI;
@@ -408,4 +408,4 @@ TEST_F(CVQDrawingAPITest, MakesEveryMeshOnce)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::cvqDrawingAPITests

@@ -6,7 +6,7 @@
 #include <functional>
 #include <limits>
 
-namespace vq::test {
+namespace vq::test::dragImageTests {
 namespace {
 
 using Access = VQTestAccess;
@@ -283,4 +283,4 @@ TEST(DragImage, ShowsNothingOfAPolygonWithoutVertices)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::dragImageTests

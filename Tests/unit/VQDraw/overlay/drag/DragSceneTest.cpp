@@ -8,7 +8,7 @@
 #include <cmath>
 #include <limits>
 
-namespace vq::test {
+namespace vq::test::dragSceneTests {
 namespace {
 
 /// The display has this scale as long as it lives.
@@ -306,4 +306,4 @@ TEST_F(DragScene, HasAPolygonWithoutVerticesAsADot)
 }
 
 } // namespace
-} // namespace vq::test
+} // namespace vq::test::dragSceneTests
