@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/ReplacementFile.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <filesystem>
 
@@ -39,7 +40,7 @@ Made makeFile(const std::wstring& name, const std::wstring&)
     return GetLastError() == ERROR_FILE_EXISTS ? Made::NameIsTaken : Made::No;
 }
 
-bool reachesDisk(std::FILE* file)
+bool synchronise(std::FILE* file)
 {
     return _commit(_fileno(file)) == 0;
 }
@@ -77,6 +78,16 @@ std::wstring resolved(LPCWSTR path)
     return target ? win32::fromUtf8(target.get()) : path;
 }
 
+/// Who may give files away gives the new one to the old one's owner. Nobody's rights as a program (set-user-ID) pass to
+/// what is written anew.
+bool isGiven(int file, const struct stat& old)
+{
+    constexpr mode_t kReadWriteRun = 0777;
+    if (geteuid() == 0 && fchown(file, old.st_uid, old.st_gid) != 0)
+        return false;
+    return fchmod(file, old.st_mode & kReadWriteRun) == 0;
+}
+
 Made makeFile(const std::wstring& name, const std::wstring& target)
 {
     constexpr mode_t kEverybody = 0666; // less what the process masks out
@@ -84,8 +95,7 @@ Made makeFile(const std::wstring& name, const std::wstring& target)
     if (file < 0)
         return errno == EEXIST ? Made::NameIsTaken : Made::No;
     struct stat old;
-    const bool hasPermissions =
-        stat(win32::nativePath(target.c_str()).c_str(), &old) != 0 || fchmod(file, old.st_mode & 07777) == 0;
+    const bool hasPermissions = stat(win32::nativePath(target.c_str()).c_str(), &old) != 0 || isGiven(file, old);
     close(file);
     if (hasPermissions)
         return Made::Yes;
@@ -93,7 +103,7 @@ Made makeFile(const std::wstring& name, const std::wstring& target)
     return Made::No;
 }
 
-bool reachesDisk(std::FILE* file)
+bool synchronise(std::FILE* file)
 {
     return fsync(fileno(file)) == 0;
 }
@@ -110,15 +120,30 @@ bool replace(const std::wstring& target, LPCWSTR by)
 
 #endif
 
-/// Whether a file may come to stand there.
+/// Whether a file may come to stand there: in place of nothing, or of a file that may be written.
 bool isPlaceForFile(const std::wstring& path)
 {
+    std::error_code error;
+    const std::filesystem::file_status status = std::filesystem::status(native(path), error);
     const DWORD attributes = GetFileAttributesW(path.c_str());
     return attributes == INVALID_FILE_ATTRIBUTES ||
-           (attributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY)) == 0;
+           (std::filesystem::is_regular_file(status) && (attributes & FILE_ATTRIBUTE_READONLY) == 0);
+}
+
+/// `path` with a short end: the name of a file has an end, at 255 bytes or 255 characters.
+std::wstring shortened(const std::wstring& path)
+{
+    constexpr std::size_t kMostOfName = 60; // characters, of four bytes each at most
+    const std::size_t name = path.find_last_of(L"/\\") + 1; // 0 where there is no folder
+    return path.substr(0, std::max(name, std::min(path.size(), name + kMostOfName)));
 }
 
 } // namespace
+
+bool reachDisk(std::FILE* file)
+{
+    return std::fflush(file) == 0 && synchronise(file);
+}
 
 ReplacementFile::ReplacementFile(LPCWSTR path)
 {
@@ -129,7 +154,7 @@ ReplacementFile::ReplacementFile(LPCWSTR path)
         return;
     constexpr int kAttempts = 1000; // names that earlier crashes left behind, or that other programs use just now
     for (int attempt = 0; attempt < kAttempts; ++attempt) {
-        std::wstring name = m_target + L".new" + std::to_wstring(attempt);
+        std::wstring name = shortened(m_target) + L".new" + std::to_wstring(attempt);
         const Made made = makeFile(name, m_target);
         if (made == Made::Yes)
             m_name = std::move(name);
@@ -149,9 +174,8 @@ bool ReplacementFile::write(std::string_view bytes) const
     std::FILE* const file = isReady() ? _wfopen(path(), L"wb") : nullptr;
     if (!file)
         return false;
-    const bool isWhole = std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size() && std::fflush(file) == 0;
-    const bool isStored = isWhole && reachesDisk(file);
-    return std::fclose(file) == 0 && isStored;
+    const bool isWhole = std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size() && reachDisk(file);
+    return std::fclose(file) == 0 && isWhole;
 }
 
 /// The old file gets a second name, or a copy where a file can have one name only: it never leaves its place.

@@ -4,16 +4,22 @@
 #include "Platform/Export.h"
 #include "Platform/System.h"
 
+#include <cstdio>
 #include <string>
 #include <string_view>
 
 namespace vq::platform {
 
+/// Hands what was written to the disk itself. False when that failed.
+[[nodiscard]] VQPLATFORM_API bool reachDisk(std::FILE* file);
+
 /// A new file beside the one that it shall replace, which it does in one step: a failure, a full disk or a crash leaves
 /// an old file whole.
 ///
-/// A link is followed. The permissions of an old file are kept where the system has such; a folder, and a file that
-/// nobody may write, are never replaced.
+/// A link is followed. The permissions of an old file are kept where the system has such, and its owner where the user
+/// may give files away. A folder, a device and a file that nobody may write are never replaced.
+///
+/// What was written in other ways than `write` outlives a failure of power only if `reachDisk` was called before.
 class VQPLATFORM_API ReplacementFile
 {
 public:

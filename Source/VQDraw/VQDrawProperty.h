@@ -148,6 +148,8 @@ public:
     ///   `CVQFont::WriteToFile` writes.
     /// - A value that the file does not have, or that is no number, stays as it is, also where files of the legacy
     ///   layout would have it: those are read as well. All fonts get their heights set.
+    /// - Memory that cannot be had throws `CMemoryException*` or `std::bad_alloc`: what was read by then counts, every
+    ///   value whole, and nothing is written.
     /// @{
     /// "Configure\vqPreference.kpf" below `CVQProcess::GetBootPath()` for all users of the machine, or below
     /// `CVQProcess::GetMyDocumentPath(false)` for this one.
@@ -246,8 +248,9 @@ public:
     ///   stream is one of bytes. Lines end with LF or CR LF; the pieces of one of 1024 characters or more count as
     ///   lines. A decimal point is a point, whatever the locale.
     ///
-    /// @return true, with a palette that may be empty; false for null, and the palette stays. Memory that cannot be had
-    /// throws `std::bad_alloc` or `CMemoryException*`.
+    /// @return true, with a palette that may be empty; false, and the palette stays, for null and for a stream that
+    /// could not be read to its end. Memory that cannot be had throws `std::bad_alloc` or `CMemoryException*`, and the
+    /// palette stays.
     static bool LoadMaterialConfigData(std::FILE* file);
     /// Writes the palette in that form, in ASCII with LF at the ends of lines, numbers with four decimals and a point.
     /// @return true; false for null and when the stream does not take it all.

@@ -62,7 +62,7 @@ public:
     void ClearMask(BYTE byMask);
     /// Fills a polygon whose corners are texels' centres, by the even-odd rule; nothing is blended: a texel takes
     /// colour and mask. The colour is taken as it stands, `0x00RRGGBB`, unlike that of `Clear`, deliberately; its top
-    /// byte is added to the mask by OR.
+    /// byte is added to the mask by OR. Where that gives 0, the texel loses its colour as well and is 0 altogether.
     void ClearRgn(CPoint* pPoints, int nCount, LONG lColor, BYTE byMask);
     /// Draws the closed outline of a polygon, `nWidth` texels wide (1 when that is negative), with the colour as above.
     void ClearRgnPath(CPoint* pPoints, int nCount, int nWidth, LONG lColor, BYTE byMask);

@@ -63,8 +63,13 @@ struct CVQFileArchive::File
     File(const File&) = delete;
     File& operator=(const File&) = delete;
 
-    /// False when the system reports only now that a write failed.
-    bool close() { return std::fclose(std::exchange(stream, nullptr)) == 0; }
+    /// Sees a stored archive to the disk: it holds work that exists nowhere else. False when a write failed, also one
+    /// of which the system tells only now.
+    bool close()
+    {
+        const bool isStored = !replacement || vq::platform::reachDisk(stream);
+        return std::fclose(std::exchange(stream, nullptr)) == 0 && isStored;
+    }
 };
 
 CVQFileArchive::CVQFileArchive(const CString& path, Mode mode)

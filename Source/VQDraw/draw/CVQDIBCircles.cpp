@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace {
 
@@ -37,6 +38,16 @@ double wholeDistance(LONG x1, LONG y1, LONG x2, LONG y2)
     const double across = static_cast<double>(x1) - x2;
     const double down = static_cast<double>(y1) - y2;
     return std::trunc(std::sqrt(down * down + across * across));
+}
+
+/// Two pixels to each side, as far as coordinates go.
+CRect handleAround(CPoint point)
+{
+    constexpr LONG kReach = 2;
+    constexpr LONG kLeast = std::numeric_limits<LONG>::min() + kReach;
+    constexpr LONG kMost = std::numeric_limits<LONG>::max() - kReach;
+    return {std::max(point.x, kLeast) - kReach, std::max(point.y, kLeast) - kReach, std::min(point.x, kMost) + kReach,
+            std::min(point.y, kMost) + kReach};
 }
 
 void makeDashes(Gdiplus::Pen& pen)
@@ -108,8 +119,7 @@ void CVQDIB::DrawCircleSelectionDefault(CVQDIB* image, LONG cx, LONG cy, LONG px
     fillEllipse(image->m_pGraphics, around, vq::colourOf(colour, alpha));
     drawEllipse(image->m_pGraphics, around, vq::colourOf(kWhite, lineAlpha), 1, true);
     for (const CPoint end : {CPoint(cx, cy), CPoint(px, py)}) {
-        CRect handle(end, end);
-        handle.InflateRect(2, 2);
+        CRect handle = handleAround(end);
         image->DrawRect(handle, kWhite, lineAlpha);
     }
     image->Line(cx, cy, px, py, kWhite, lineAlpha, 1, false);

@@ -98,6 +98,6 @@ void CVQDIB::FillLine(const CRect& line, COLORREF colour)
 {
     vq::fillWithColour(m_pGraphics, vq::colourOf(colour, 255), [&](Gdiplus::Graphics& graphics, const auto& brush) {
         const vq::HardEdges hardEdges(graphics, IsEnableAntialias());
-        graphics.FillRectangle(&brush, line.left, line.top, line.Width(), line.Height());
+        graphics.FillRectangle(&brush, Reachable(line));
     });
 }

@@ -6,9 +6,23 @@
 #include "VQDraw/image/StartUpSteps.h"
 #include "vqCommonBase/VQLocaleAPI.h"
 
+#include <new>
+
 namespace {
 
 VQ_START_ORDER(vq::kModuleObject) CVQDrawApp moduleObject;
+
+/// In the user's language. What comes of it does not matter to what else starts, be it that memory is short.
+void loadTexts(HINSTANCE library) noexcept
+{
+    try {
+        CVQLocaleAPI::GetInstance()->LoadCurrentLocaleResource(library, AfxGetStaticModuleState());
+    } catch (CException* exception) {
+        exception->Delete();
+    } catch (const std::bad_alloc&) {
+        return;
+    }
+}
 
 } // namespace
 
@@ -17,7 +31,7 @@ VQ_START_ORDER(vq::kImageLock) CCriticalSection CVQDIB::_critSect;
 BOOL CVQDrawApp::InitInstance()
 {
     CWinApp::InitInstance();
-    CVQLocaleAPI::GetInstance()->LoadCurrentLocaleResource(m_hInstance, AfxGetStaticModuleState());
+    loadTexts(m_hInstance);
     CVQDIB::EnableSIMD();
     vq::startPreferences();
     vq::startOverlay();

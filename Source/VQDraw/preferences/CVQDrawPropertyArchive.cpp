@@ -107,9 +107,9 @@ void CVQDrawProperty::Read(CVQArchive* archive)
 {
     if (!archive)
         return;
+    const vq::SelectionColourHandOver atTheEnd;
     readTable(*archive, m_fColor);
     readTable(*archive, m_fSize);
-    vq::handOverSelectionColour();
 }
 
 void CVQDrawProperty::WriteUIColor(CVQArchive* archive)

@@ -5,6 +5,7 @@
 #include "VQDraw/preferences/Channel.h"
 #include "VQDraw/preferences/ChartColours.h"
 #include "VQDraw/preferences/ControlColours.h"
+#include "VQDraw/preferences/FontFields.h"
 #include "VQDraw/preferences/Fonts.h"
 #include "VQDraw/preferences/Materials.h"
 #include "VQDraw/preferences/SceneColours.h"
@@ -73,41 +74,50 @@ public:
     void font(LPCTSTR section, CVQFont& value) const { value.ReadFromFile(section, m_file); }
 
 private:
-    /// Two fallbacks: a key that is missing gives back each.
+    /// Two fallbacks: a key that is missing, or that there is no memory to read, gives back one of them.
     std::optional<UINT> number(LPCTSTR section, LPCTSTR key) const
     {
         const UINT found = CVQRegistry::GetProfileUINT(section, key, 0, m_file);
-        const bool isMissing = found == 0 && CVQRegistry::GetProfileUINT(section, key, 1, m_file) == 1;
-        return isMissing ? std::nullopt : std::optional(found);
+        const UINT again = CVQRegistry::GetProfileUINT(section, key, 1, m_file);
+        return found == again ? std::optional(found) : std::nullopt;
     }
 
     LPCTSTR m_file;
 };
+
+/// Thrown when a value was not taken, or the file not replaced.
+struct NotSaved
+{};
 
 class Writer
 {
 public:
     explicit Writer(LPCTSTR file) : m_file(file) {}
 
-    void rgba(LPCTSTR section, LPCTSTR key, const float (&value)[4]) const
-    {
-        CVQRegistry::WriteProfileUINT(section, key, packed(value), m_file);
-    }
+    void rgba(LPCTSTR section, LPCTSTR key, const float (&value)[4]) const { number(section, key, packed(value)); }
     void colour(LPCTSTR section, LPCTSTR key, const CVQColor& value) const
     {
-        CVQRegistry::WriteProfileUINT(section, key, value.GetCOLORREF(), m_file);
+        number(section, key, value.GetCOLORREF());
     }
     void real(LPCTSTR section, LPCTSTR key, float value) const
     {
-        CVQRegistry::WriteProfileFLOAT(section, key, value, m_file);
+        if (!CVQRegistry::WriteProfileFLOAT(section, key, value, m_file))
+            throw NotSaved();
     }
-    void byte(LPCTSTR section, LPCTSTR key, unsigned char value) const
+    void byte(LPCTSTR section, LPCTSTR key, unsigned char value) const { number(section, key, value); }
+    void font(LPCTSTR section, const CVQFont& value) const
     {
-        CVQRegistry::WriteProfileUINT(section, key, value, m_file);
+        if (!vq::writeFont(value, section, m_file))
+            throw NotSaved();
     }
-    void font(LPCTSTR section, CVQFont& value) const { value.WriteToFile(section, m_file); }
 
 private:
+    void number(LPCTSTR section, LPCTSTR key, UINT value) const
+    {
+        if (!CVQRegistry::WriteProfileUINT(section, key, value, m_file))
+            throw NotSaved();
+    }
+
     LPCTSTR m_file;
 };
 
@@ -194,12 +204,10 @@ int CVQDrawProperty::ReadPreferenceFromFile(CString path)
 {
     if (!CVQShellAPI::IsPathExist(path))
         return 0;
+    const vq::SelectionColourHandOver atTheEnd;
     ReadPreferenceFromFileLegacy(path); // what it finds, the values below replace where the file has them
-    {
-        const CVQRegistry::FileScope scope(path);
-        transferAll(Reader(path));
-    }
-    vq::handOverSelectionColour();
+    const CVQRegistry::FileScope scope(path);
+    transferAll(Reader(path));
     return 1;
 }
 
@@ -215,7 +223,15 @@ int CVQDrawProperty::WritePreferenceToFile(CString path)
     if (path.IsEmpty())
         return 0;
     makeFolderFor(path);
-    CVQRegistry::FileScope scope(path);
-    transferAll(Writer(path));
-    return scope.Save() ? 1 : 0;
+    try {
+        CVQRegistry::FileScope scope(path);
+        if (!scope.Save()) // no memory to write all at once
+            return 0;
+        transferAll(Writer(path));
+        if (!scope.Save())
+            throw NotSaved();
+        return 1;
+    } catch (const NotSaved&) { // as an exception passed, the guard did not try once more
+        return 0;
+    }
 }

@@ -185,9 +185,9 @@ int CVQDrawProperty::ReadPreferenceFromFileLegacy(CString path)
                                                                 CVQFileAPI::Close);
     if (!file)
         return 0;
+    const vq::SelectionColourHandOver atTheEnd;
     vq::TextLines lines(file.get(), vq::kLegacyLineLimit);
     for (CString line; vq::readLegacyLine(lines, line);)
         readOpened(lines, line);
-    vq::handOverSelectionColour();
     return 1;
 }

@@ -84,7 +84,8 @@ bool CVQDrawProperty::LoadMaterialConfigData(std::FILE* file)
     for (CString line; lines.read(line);)
         readLine(line, material, finished);
 
-    m_arrPalletMaterial.RemoveAll();
+    if (std::ferror(file))
+        return false;
     m_arrPalletMaterial.SetSize(static_cast<INT_PTR>(finished.size()));
     std::ranges::copy(finished, m_arrPalletMaterial.GetData());
     return true;

@@ -97,6 +97,7 @@ bool CVQDrawProperty::SaveMaterialConfig(bool withDialog)
         return false;
     File file = open(replacement.path(), L"wb");
     const bool isWritten = WriteMaterialConfigData(file.get());
+    const bool isStored = isWritten && vq::platform::reachDisk(file.get());
     const bool isClosed = file && std::fclose(file.release()) == 0; // what was written may fail only now
-    return isWritten && isClosed && replacement.commit();
+    return isStored && isClosed && replacement.commit();
 }

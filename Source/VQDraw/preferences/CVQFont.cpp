@@ -31,15 +31,22 @@ void read(CVQFont& font, const vq::FontField& field, vq::FieldType type, LPCTSTR
     field.setNumber(font, stored);
 }
 
-void write(const CVQFont& font, const vq::FontField& field, vq::FieldType type, LPCTSTR section, LPCTSTR key,
+/// Whether a line can hold a name. One that none can is left out, and no failure.
+bool isOfOneLine(const CString& face)
+{
+    return face.FindOneOf(L"\r\n") < 0;
+}
+
+/// Whether the value was taken.
+bool write(const CVQFont& font, const vq::FontField& field, vq::FieldType type, LPCTSTR section, LPCTSTR key,
            LPCTSTR file)
 {
-    if (type == vq::FieldType::Face)
-        CVQRegistry::WriteProfileSTR(section, key, faceOf(font), file);
-    else if (type == vq::FieldType::Integer)
-        CVQRegistry::WriteProfileINT(section, key, field.number(font), file);
-    else
-        CVQRegistry::WriteProfileUINT(section, key, static_cast<UINT>(field.number(font)), file);
+    if (type == vq::FieldType::Integer)
+        return CVQRegistry::WriteProfileINT(section, key, field.number(font), file);
+    if (type != vq::FieldType::Face)
+        return CVQRegistry::WriteProfileUINT(section, key, static_cast<UINT>(field.number(font)), file);
+    const CString face = faceOf(font);
+    return CVQRegistry::WriteProfileSTR(section, key, face, file) || !isOfOneLine(face);
 }
 
 /// Calls `action` for each value that the registry holds of a font, with its type there and its name.
@@ -91,9 +98,16 @@ void CVQFont::ReadFromFile(const wchar_t* section, const wchar_t* file)
     vq::setHeights(*this);
 }
 
-void CVQFont::WriteToFile(const wchar_t* section, const wchar_t* file)
+bool vq::writeFont(const CVQFont& font, LPCTSTR section, LPCTSTR file)
 {
     const CVQRegistry::FileScope scope(file);
-    for (const vq::FontField& field : vq::kFontFields)
-        write(*this, field, field.type, section, field.key, file);
+    bool isWhole = true;
+    for (const FontField& field : kFontFields)
+        isWhole = write(font, field, field.type, section, field.key, file) && isWhole;
+    return isWhole;
+}
+
+void CVQFont::WriteToFile(const wchar_t* section, const wchar_t* file)
+{
+    (void)vq::writeFont(*this, section, file);
 }

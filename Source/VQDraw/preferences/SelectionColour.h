@@ -10,6 +10,15 @@ namespace vq {
 /// `DPC_SELECTION_TOOL` has now. Nothing before shapes have been asked for.
 void handOverSelectionColour();
 
+/// Does so when reading ends, also before its time: what was read by then counts.
+struct SelectionColourHandOver
+{
+    SelectionColourHandOver() = default;
+    ~SelectionColourHandOver() { handOverSelectionColour(); }
+    SelectionColourHandOver(const SelectionColourHandOver&) = delete;
+    SelectionColourHandOver& operator=(const SelectionColourHandOver&) = delete;
+};
+
 /// For the shapes' start-up. Null: nobody takes the colour.
 void whenSelectionColourIsRead(void (*take)());
 

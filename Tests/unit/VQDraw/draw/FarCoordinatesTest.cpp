@@ -114,6 +114,22 @@ TEST(FarCoordinates, OfACircleThatPassesTheImageDrawAnAlmostStraightLine)
     EXPECT_EQ(findDrawn(image).count, 9);
 }
 
+TEST(FarCoordinates, OfACircleSelectionDrawNothingInSight)
+{
+    if (differsHere("lines from afar"))
+        return;
+    using Limits = std::numeric_limits<LONG>;
+    for (const LONG x : {Limits::min(), Limits::min() + 1, Limits::min() + 2, Limits::max() - 2, Limits::max() - 1,
+                         Limits::max()}) {
+        HardImage across(64, 48);
+        CVQDIB::DrawCircleSelection(&across, x, 20, x, 20, kRed, 100);
+        EXPECT_EQ(findDrawn(across).count, 0) << x;
+        HardImage down(64, 48);
+        CVQDIB::DrawCircleSelection(&down, 20, x, 20, x, kRed, 100);
+        EXPECT_EQ(findDrawn(down).count, 0) << x;
+    }
+}
+
 TEST(FarCoordinates, OfHugePensEndAtOnce)
 {
     if (differsHere("lines from afar"))

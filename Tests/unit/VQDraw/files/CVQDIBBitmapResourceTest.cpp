@@ -53,6 +53,19 @@ TEST(BitmapObject, IsCopiedOpaque)
     EXPECT_TRUE(bitmap.GetSafeHandle()) << "the bitmap stays its owner's";
 }
 
+TEST(BitmapObject, KeepsAllColours)
+{
+    // A device context of an image takes a colour for "nothing drawn": 13, 11, 12 and kin.
+    const Pixels colours{0xFF0D0B0C, 0xFF0C0B0D, 0xFF0B0C0D, 0xFF0C0D0B, 0xFF000000, 0xFFFFFFFF};
+    CVQDIB source(3, 2);
+    paint(source, colours);
+    CBitmap bitmap;
+    bitmap.Attach(source.GetBitmapHandle());
+    CVQDIB image(1, 1);
+    EXPECT_TRUE(image.LoadBitmapW(&bitmap, true));
+    EXPECT_TRUE(shows(image, colours));
+}
+
 TEST(BitmapObject, NullOrWithoutABitmapIsFalse)
 {
     CVQDIB image(1, 1);

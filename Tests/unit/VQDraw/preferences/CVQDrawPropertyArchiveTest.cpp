@@ -461,6 +461,15 @@ TEST_F(SelectionColour, IsCutToEightBits)
     EXPECT_EQ(CVQDrawingAPI::DragBox()->GetColor(), RGB(510 & 0xFF, -255 & 0xFF, 0));
 }
 
+TEST_F(SelectionColour, OfADocumentThatEndsBehindItIsThatOfTheShapes)
+{
+    const StoredBytes whole = blockWithSelectionColour(1.0f, 0.5f, 0.25f);
+    CVQMemoryArchive archive = whole.archive(whole.size() - 4); // no count of sizes
+    EXPECT_EQ(causeOf([&] { Store::Read(&archive); }), CArchiveException::endOfFile);
+    EXPECT_EQ(CVQDrawingAPI::DragBox()->GetColor(), RGB(255, 127, 63));
+    EXPECT_EQ(CVQDrawingAPI::DragLine()->GetColor(), RGB(255, 127, 63));
+}
+
 TEST_F(SelectionColour, OfADocumentNeedsNoShapes)
 {
     CVQDrawingAPI::Destroy();

@@ -244,6 +244,18 @@ TEST(TextureRegion, AddsTheTopByteOfTheColourToTheMask)
     EXPECT_EQ(texture(1, 1), texel(0xFF102030));
 }
 
+TEST(TextureRegion, OfMask0LosesItsColours)
+{
+    CVQTexture texture(4, 4);
+    texture.Clear(0x00FFFFFF, 0xFF);
+    CPoint corners[] = {CPoint(0, 0), CPoint(2, 0), CPoint(2, 2), CPoint(0, 2)};
+    texture.ClearRgn(corners, 4, 0x00102030, 0);
+    EXPECT_EQ(texture(1, 1), 0);
+    EXPECT_EQ(texture(3, 3), static_cast<LONG>(0xFFFFFFFF));
+    texture.ClearRgnPath(corners, 4, 1, 0x01102030, 0);
+    EXPECT_EQ(texture(2, 0), 0x01102030) << "the colour's top byte is a mask too";
+}
+
 TEST(TextureRegion, LeavesOutWhatItEnclosesTwice)
 {
     CVQTexture texture(7, 7);

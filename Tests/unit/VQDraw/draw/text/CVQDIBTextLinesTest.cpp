@@ -49,6 +49,18 @@ TEST_F(CVQDIBTextLines, StandOnBackgroundsOfTheirHeightMovedByOneAndTwo)
     EXPECT_EQ(of(kBluePixel), CRect(11, 22 + m_height, 90, 22 + 2 * m_height));
 }
 
+TEST_F(CVQDIBTextLines, ReachFarToBothSides)
+{
+    using Limits = std::numeric_limits<LONG>;
+    for (const auto& [left, right] : {std::pair<LONG, LONG>(-5, Limits::max() - 10), {-5, Limits::max() - 2},
+                                      {Limits::min() + 2, 130}, {Limits::min() + 2, Limits::max() - 2}}) {
+        m_image.Clear(0);
+        draw(L"one\ntwo", {kRed, kBlue}, {left, 20, right, 25});
+        EXPECT_EQ(of(kRedPixel), CRect(0, 22, 120, 22 + m_height)) << left << " to " << right;
+        EXPECT_EQ(of(kBluePixel), CRect(0, 22 + m_height, 120, 22 + 2 * m_height)) << left << " to " << right;
+    }
+}
+
 TEST_F(CVQDIBTextLines, OfColour0HaveNoBackground)
 {
     draw(L"one\ntwo\nthree", {kRed, kNone, kBlue});

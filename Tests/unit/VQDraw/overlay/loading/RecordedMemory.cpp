@@ -10,6 +10,8 @@ constexpr std::size_t kMostEvents = 1 << 20;
 vq::test::MemoryEvent g_events[kMostEvents];
 std::size_t g_count = 0;
 bool g_isRecording = false;
+int g_untilFailure = -1; // below 0: none is to come
+bool g_isFailing = false;
 
 void note(void* block, bool isGiven)
 {
@@ -17,7 +19,24 @@ void note(void* block, bool isGiven)
         g_events[g_count++] = {block, isGiven};
 }
 
+bool mustFail()
+{
+    return g_isFailing && g_untilFailure-- == 0;
+}
+
 } // namespace
+
+void vq::test::failMemoryAt(int number)
+{
+    g_untilFailure = number;
+    g_isFailing = true;
+}
+
+bool vq::test::stopFailingMemory()
+{
+    g_isFailing = false;
+    return g_untilFailure < 0;
+}
 
 void vq::test::startMemoryEvents()
 {
@@ -36,7 +55,7 @@ std::span<const vq::test::MemoryEvent> vq::test::stopMemoryEvents()
 
 [[gnu::visibility("default")]] void* operator new(std::size_t bytes)
 {
-    void* const block = std::malloc(bytes == 0 ? 1 : bytes);
+    void* const block = mustFail() ? nullptr : std::malloc(bytes == 0 ? 1 : bytes);
     if (!block)
         throw std::bad_alloc();
     note(block, false);

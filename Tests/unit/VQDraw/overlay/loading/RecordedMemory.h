@@ -18,4 +18,9 @@ void startMemoryEvents();
 /// Stops. The events are there until the next start; only the first million is kept.
 std::span<const MemoryEvent> stopMemoryEvents();
 
+/// From now on the allocation with this number, counted from 0, fails, and no other.
+void failMemoryAt(int number);
+/// All succeed again. Whether one has failed.
+bool stopFailingMemory();
+
 } // namespace vq::test
