@@ -358,16 +358,6 @@ TEST_F(MaterialFile, ThatIsNoneLeavesThePalette)
     EXPECT_EQ(palette(), twoMaterials());
 }
 
-TEST_F(MaterialFile, ThatCannotBeReadLeavesThePalette)
-{
-    setPalette(twoMaterials());
-    m_file.write("");
-    std::FILE* file = _wfopen(m_file.path(), L"wb");
-    EXPECT_FALSE(Store::LoadMaterialConfigData(file));
-    std::fclose(file);
-    EXPECT_EQ(palette(), twoMaterials());
-}
-
 TEST_F(MaterialFile, IsNotWrittenWhereNothingCanBe)
 {
     m_file.write("");

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Preferences when memory runs out: one allocation fails, another in every round.
+// Preferences when memory runs out (one allocation fails, another in every round), and when a stream fails.
 #include "StoredPreferences.h"
 
 #include "support/TemporaryFolder.h"
@@ -130,6 +130,16 @@ TEST_F(PreferenceMemory, ThatRunsOutLeavesThePalette)
                     [&](std::optional<int> result) {
                         EXPECT_EQ(StoredPreferences::now().palette.size(), result == 1 ? 2U : before.size());
                     });
+}
+
+TEST_F(PreferenceMemory, ThatAStreamCannotGiveLeavesThePalette)
+{
+    Store::m_arrPalletMaterial.SetSize(3);
+    std::FILE* const file = _wfopen((m_folder / L"MaterialInfo.kmt").c_str(), L"wb"); // not to be read
+    ASSERT_TRUE(file);
+    EXPECT_FALSE(Store::LoadMaterialConfigData(file));
+    std::fclose(file);
+    EXPECT_EQ(Store::GetMaterialSize(), 3);
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <new>
 #include <set>
 #include <span>
 #include <string>
@@ -65,6 +66,23 @@ TEST(LoadedOverlay, HasLabelsAndShapesAndNoMeshes)
     EXPECT_THAT(objectsOf(library, kMeshes), testing::Each(testing::IsNull()));
     EXPECT_EQ(library.object("m_pDragObject"), nullptr);
     EXPECT_EQ(library.object("m_pQuad"), nullptr);
+}
+
+TEST(LoadedOverlay, LacksOneObjectAtMostWhenOneAllocationFails)
+{
+    bool hasFailed = true;
+    for (int number = 0; hasFailed; ++number) {
+        std::unique_ptr<const DrawingLibrary> library;
+        failMemoryAt(number);
+        try {
+            library = std::make_unique<const DrawingLibrary>();
+        } catch (const std::bad_alloc&) { // it was one of this program's own
+        }
+        hasFailed = stopFailingMemory();
+        if (library) {
+            EXPECT_LE(std::ranges::count(objectsOf(*library, kAtStart), nullptr), 1) << number;
+        }
+    }
 }
 
 TEST(LoadedOverlay, LeavesNothingBehind)
