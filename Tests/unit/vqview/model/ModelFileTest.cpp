@@ -54,6 +54,16 @@ TEST(ModelFile, ReadsByContentWhereTheExtensionSaysNothing)
     }
 }
 
+TEST(ModelFile, ReadsByContentWhereOnlyCarriageReturnsEndLines)
+{
+    std::string text;
+    for (int i = 0; i < 20'000; ++i)
+        text += std::to_string(i) + " 2 3\r";
+    const ReadOutcome outcome = readFile("thing.txt", text);
+    ASSERT_TRUE(outcome.model) << outcome.message;
+    EXPECT_EQ(outcome.model->positions.size(), 20'000);
+}
+
 TEST(ModelFile, ReadsByContentWhereTheExtensionIsWrong)
 {
     for (const char* const name : {"thing.ply", "thing.stl", "thing.off", "thing.xyz", "thing.3ds"})

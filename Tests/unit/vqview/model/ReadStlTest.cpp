@@ -45,6 +45,16 @@ TEST(ReadStl, TakesTextWithLettersOfAnyCase)
     EXPECT_THAT(made.mesh.triangles, ElementsAre(Triangle{0, 1, 2}));
 }
 
+TEST(ReadStl, TakesTextInWhichOnlyCarriageReturnsEndLines)
+{
+    std::string text(kText);
+    std::erase(text, '\r');
+    std::ranges::replace(text, '\n', '\r');
+    const Read made = readStl(text);
+    EXPECT_EQ(made.failure, "");
+    EXPECT_THAT(made.mesh.triangles, ElementsAre(Triangle{0, 1, 2}));
+}
+
 TEST(ReadStl, PassesOverBytesAfterTheLastTriangle)
 {
     EXPECT_EQ(readStl(binaryStl("binary") + "more").mesh.triangles.size(), 2);
