@@ -57,7 +57,19 @@ TEST(ReadStl, TakesTextInWhichOnlyCarriageReturnsEndLines)
 
 TEST(ReadStl, PassesOverBytesAfterTheLastTriangle)
 {
-    EXPECT_EQ(readStl(binaryStl("binary") + "more").mesh.triangles.size(), 2);
+    for (const char* const header : {"binary", "solid"}) {
+        const Read made = readStl(binaryStl(header) + "more");
+        EXPECT_EQ(made.failure, "") << header;
+        EXPECT_EQ(made.mesh.triangles.size(), 2) << header;
+    }
+}
+
+TEST(ReadStl, TakesForTextWhatIsTooShortForItsCountOrHasNoZeroByte)
+{
+    const std::string bytes = binaryStl("solid");
+    EXPECT_EQ(readStl(bytes.substr(0, bytes.size() - 1)).failure, "line 1: it ends before its \"endsolid\"");
+    const std::string longName = "solid " + std::string(200, 'x') + std::string(kText.substr(kText.find('\n')));
+    EXPECT_EQ(readStl(longName).mesh.triangles.size(), 1);
 }
 
 TEST(ReadStl, SaysWhatIsMissing)
