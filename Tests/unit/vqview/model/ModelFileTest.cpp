@@ -93,6 +93,18 @@ TEST(ModelFile, SaysWhatWasLeftOut)
         "Of thing.obj is left out: 1 point without a finite place and 2 triangles without three different corners.");
 }
 
+TEST(ModelFile, SaysWhenAScanIsTooLargeToBeShown)
+{
+    EXPECT_EQ(readFile("thing.xyz", "0 0 0\n1.9e15 0 0\n").message, "");
+    for (const char* const far : {"2.1e15", "3e38"}) {
+        const ReadOutcome outcome = readFile("thing.xyz", "0 0 0\n0 " + std::string(far) + " 0\n");
+        ASSERT_TRUE(outcome.model);
+        EXPECT_EQ(outcome.message, "thing.xyz is too large to be shown.") << far;
+    }
+    EXPECT_EQ(readFile("thing.xyz", "-3e38 0 0\n3e38 0 0\nnan 0 0\n").message,
+              "Of thing.xyz is left out: 1 point without a finite place. thing.xyz is too large to be shown.");
+}
+
 TEST(ModelFile, SaysWhyThereIsNothingToRead)
 {
     const ScanFile file("thing.obj", kObj);
