@@ -141,11 +141,10 @@ constexpr std::array<Named<Button>, 3> kButtons{{
     {"middle", Button::Middle},
     {"right", Button::Right},
 }};
-constexpr std::array<Named<Key>, 5> kKeys{{
+constexpr std::array<Named<Key>, 4> kKeys{{
     {"enter", Key::Enter},
     {"backspace", Key::Backspace},
     {"escape", Key::Escape},
-    {"delete", Key::Delete},
     {"f12", Key::F12},
 }};
 constexpr std::array<Named<bool Shown::*>, 6> kShown{{

@@ -36,7 +36,7 @@ struct ScriptStage
 /// | `ellipse BUTTON X Y RX RY STEPS` | the same on an ellipse around a place |
 /// | `click X Y` | presses and releases the left button |
 /// | `wheel STEPS X Y` | |
-/// | `key NAME` | a letter or digit; enter, backspace, escape, delete, f12 |
+/// | `key NAME` | a letter or digit; enter, backspace, escape, f12 |
 /// | `hold` | says which keys are held from now on |
 /// | `show WHAT`, `hide WHAT` | faces, edges, vertices, labels, report, keys |
 /// | `through on`, `through off` | whether hidden points count |
