@@ -330,6 +330,8 @@ void length(Line& line)
     const std::string_view name = line.word();
     const int index = CVQDrawProperty::GetDPSEnumStringToEnumNo(textOf(name));
     const double value = line.number();
+    if (value < 0)
+        line.fail("sizes are from 0 on");
     if (index < 0)
         line.fail("there is no size " + quoted(name));
     if (!line.fault().empty())

@@ -42,7 +42,7 @@ struct ScriptStage
 /// | `through on`, `through off` | whether hidden points count |
 /// | `exchange on`, `exchange off` | of Ctrl and Shift |
 /// | `colour NAME R G B [A]` | a scene colour of the preferences, 0 .. 1 |
-/// | `length NAME VALUE` | a size of the preferences |
+/// | `length NAME VALUE` | a size of the preferences, from 0 on |
 /// | `wait` | for a scan that is being read |
 /// | `count` | prints how many points are selected |
 /// | `time FRAMES` | prints how long a frame takes on average |

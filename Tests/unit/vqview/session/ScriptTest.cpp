@@ -198,7 +198,8 @@ INSTANTIATE_TEST_SUITE_P(
                     "through", "through maybe", "exchange", "exchange 1", "colour", "colour DPC_NOWHERE 0 0 0",
                     "colour DPC_BACKGROUND 0 0", "colour DPC_BACKGROUND 0 0 2", "colour DPC_BACKGROUND -1 0 0",
                     "colour DPC_BACKGROUND 0 0 0 0 0", "length", "length DPS_NOWHERE 1", "length DPS_VERTEX",
-                    "length DPS_VERTEX wide", "wait here", "count all", "size", "size 10", "size 0 10", "size 10 -5",
+                    "length DPS_VERTEX wide", "length DPS_VERTEX -1", "length DPS_VERTEX -0.001",
+                    "length DPS_VERTEX nan", "wait here", "count all", "size", "size 10", "size 0 10", "size 10 -5",
                     "size 99999 10", "size 10 10 0", "size 10 10 99", "size 10 10 1 1", "size 1e9 1e9", "open", "save",
                     "picture", "report"));
 
