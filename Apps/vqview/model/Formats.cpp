@@ -76,7 +76,7 @@ std::optional<ScanFormat> formatOfContent(std::string_view bytes)
 {
     std::string_view sample = bytes.substr(0, kSampleSize);
     if (sample.size() < bytes.size())
-        sample = sample.substr(0, sample.rfind('\n')); // whole lines
+        sample = sample.substr(0, sample.rfind(lineEndOf(sample))); // whole lines
     const std::string_view word = Words(sample.substr(0, 80), '\n').next();
     if (word == "ply")
         return ScanFormat::Ply;

@@ -17,6 +17,12 @@ float Bounds::radius() const
     return isEmpty() ? 0 : std::hypot(most.x - least.x, most.y - least.y, most.z - least.z) / 2;
 }
 
+bool Bounds::isShowable() const
+{
+    constexpr float kLargestRadius = 1e15F;
+    return !isEmpty() && radius() <= kLargestRadius;
+}
+
 Bounds boundsOf(const std::vector<Point3>& positions)
 {
     constexpr float kFar = std::numeric_limits<float>::infinity();

@@ -25,6 +25,8 @@ struct Bounds
     Point3 centre() const;
     /// Half the diagonal; 0 of an empty box.
     float radius() const;
+    /// Neither empty, nor of numbers that are not finite, nor too large for OpenGL's matrices in single precision.
+    bool isShowable() const;
 };
 
 Bounds boundsOf(const std::vector<Point3>& positions);

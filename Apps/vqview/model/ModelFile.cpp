@@ -85,7 +85,7 @@ std::string counted(std::size_t count, const char* one, const char* many)
 }
 
 /// Empty when nothing was left out.
-std::string remark(const std::string& title, const FinishedModel& finished)
+std::string leftOut(const std::string& title, const FinishedModel& finished)
 {
     std::string what;
     if (finished.droppedPoints > 0)
@@ -95,6 +95,15 @@ std::string remark(const std::string& title, const FinishedModel& finished)
                                                         "triangle without three different corners",
                                                         "triangles without three different corners");
     return what.empty() ? what : "Of " + title + " is left out: " + what + '.';
+}
+
+/// Empty when all of it can be shown.
+std::string remark(const std::string& title, const FinishedModel& finished)
+{
+    std::string said = leftOut(title, finished);
+    if (!finished.model->bounds.isShowable())
+        said += (said.empty() ? "" : " ") + title + " is too large to be shown.";
+    return said;
 }
 
 ReadOutcome failed(const std::string& title, const std::string& why)

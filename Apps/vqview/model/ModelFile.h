@@ -11,7 +11,7 @@
 namespace vqview {
 
 /// What came of reading a scan. Without a model the message says why; beside one it says what of the file was left
-/// out, and is empty when that is nothing. A sentence in UTF-8 for the user.
+/// out and whether it is too large to be shown, and is empty when neither is so. Sentences in UTF-8 for the user.
 struct ReadOutcome
 {
     std::shared_ptr<const Model> model;

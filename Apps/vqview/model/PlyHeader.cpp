@@ -90,7 +90,8 @@ bool takeEncoding(Words& words, std::optional<PlyEncoding>& encoding)
 std::string readPlyHeader(std::string_view bytes, PlyHeader& header)
 {
     Progress unwatched;
-    Lines lines(bytes, unwatched);
+    // Binary numbers behind the header hold any byte.
+    Lines lines(bytes, unwatched, lineEndOf(bytes.substr(0, bytes.find("end_header"))));
     std::optional<PlyEncoding> encoding;
     std::string_view line;
     if (!lines.next(line) || Words(line).next() != "ply")

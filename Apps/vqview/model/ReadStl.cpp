@@ -71,15 +71,22 @@ std::string readText(std::string_view text, RawMesh& mesh, Progress& progress)
     return isEnded ? std::string() : inLine(lines.number(), "it ends before its \"endsolid\"");
 }
 
+/// Of a file that begins as text does, with "solid": some programs begin binary ones so, and some add bytes of their
+/// own.
+bool isBinaryAllTheSame(std::string_view bytes)
+{
+    const std::uint64_t size = kHeaderSize + kTriangleSize * triangleCount(bytes);
+    const bool hasZeroByte = bytes.substr(0, kHeaderSize).find('\0') != std::string_view::npos; // text has none
+    return bytes.size() == size || (bytes.size() > size && hasZeroByte);
+}
+
 } // namespace
 
 std::string readStl(std::string_view bytes, RawMesh& mesh, Progress& progress)
 {
-    // Binary files may begin with "solid" as well: then their size tells.
-    const bool isOfBinarySize = bytes.size() == kHeaderSize + kTriangleSize * triangleCount(bytes);
     const std::string_view begin = bytes.substr(std::min(bytes.find_first_not_of(" \t\r\n"), bytes.size()));
-    return beginsWith(begin, "solid") && !isOfBinarySize ? readText(bytes, mesh, progress)
-                                                         : readBinary(bytes, mesh, progress);
+    return beginsWith(begin, "solid") && !isBinaryAllTheSame(bytes) ? readText(bytes, mesh, progress)
+                                                                    : readBinary(bytes, mesh, progress);
 }
 
 } // namespace vqview

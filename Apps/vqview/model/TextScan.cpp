@@ -11,6 +11,7 @@ namespace vqview {
 namespace {
 
 constexpr std::size_t kReportedBytes = 1 << 16;
+constexpr std::size_t kSearchedBytes = 1 << 16; // for a line feed: the first line is hardly longer
 
 std::string_view withoutCarriageReturn(std::string_view line)
 {
@@ -42,6 +43,12 @@ const char* parse(const char* begin, const char* end, Float& value)
 
 } // namespace
 
+char lineEndOf(std::string_view text)
+{
+    const std::string_view begin = text.substr(0, kSearchedBytes);
+    return begin.find('\n') == std::string_view::npos && begin.find('\r') != std::string_view::npos ? '\r' : '\n';
+}
+
 bool Lines::next(std::string_view& line)
 {
     if (m_offset >= m_text.size())
@@ -52,9 +59,9 @@ bool Lines::next(std::string_view& line)
             return false;
     }
     const char* const begin = m_text.data() + m_offset;
-    const void* const feed = std::memchr(begin, '\n', m_text.size() - m_offset);
+    const void* const end = std::memchr(begin, m_lineEnd, m_text.size() - m_offset);
     const std::size_t length =
-        feed ? static_cast<std::size_t>(static_cast<const char*>(feed) - begin) : m_text.size() - m_offset;
+        end ? static_cast<std::size_t>(static_cast<const char*>(end) - begin) : m_text.size() - m_offset;
     line = {begin, length};
     m_offset += length + 1;
     ++m_number;
@@ -129,7 +136,7 @@ bool takeInteger(std::string_view& word, std::int64_t& value)
 
 std::size_t lineAt(std::string_view text, std::size_t offset)
 {
-    return 1 + static_cast<std::size_t>(std::ranges::count(text.substr(0, offset), '\n'));
+    return 1 + static_cast<std::size_t>(std::ranges::count(text.substr(0, offset), lineEndOf(text)));
 }
 
 std::string inLine(std::size_t line, std::string_view sentence)

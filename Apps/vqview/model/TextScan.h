@@ -10,13 +10,21 @@
 
 namespace vqview {
 
-/// Lines of a text in memory, as quick as memory. A line has no line feed at its end; a carriage return before one is
-/// blank for Words.
+/// What ends the lines of a text: a line feed, or a carriage return where the text begins with lines that have only
+/// that.
+char lineEndOf(std::string_view text);
+
+/// Lines of a text in memory, as quick as memory. A line has no line end at its end; a carriage return before a line
+/// feed is blank for Words.
 class Lines
 {
 public:
     /// The fraction of the text that has been read is reported to `progress`.
-    Lines(std::string_view text, Progress& progress) : m_text(text), m_progress(progress) {}
+    Lines(std::string_view text, Progress& progress) : Lines(text, progress, lineEndOf(text)) {}
+    Lines(std::string_view text, Progress& progress, char lineEnd)
+        : m_text(text), m_progress(progress), m_lineEnd(lineEnd)
+    {
+    }
 
     /// The next line; its view lives as long as the text.
     /// @return false behind the last line and when the work is to stop.
@@ -31,6 +39,7 @@ public:
 private:
     std::string_view m_text;
     Progress& m_progress;
+    char m_lineEnd;
     std::size_t m_offset = 0, m_number = 0, m_reported = 0;
     std::string m_joined;
 };

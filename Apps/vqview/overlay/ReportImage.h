@@ -21,7 +21,7 @@ struct ReportContent
     std::string valueName;                   ///< heading of the colour bar
     std::span<const float> values;           ///< what is not finite does not count; without any no colour bar
     std::span<const std::uint32_t> selected; ///< indices of values, each once; those beyond do not count
-    eVQUnit unit = VQ_UNIT_END;              ///< of the values, named in the heading; `VQ_UNIT_END` is none
+    std::string unit;                        ///< of the values, named in the heading and with their mean; may be empty
 };
 
 /// Number of points, triangles, edges and selected points, and the sizes of the bounds, as `ReportContent::lines`.

@@ -15,19 +15,10 @@ CString countText(std::size_t count)
     return CVQUnit::GetDeciPointedString(static_cast<double>(count), false, VQ_UNIT_END, true, false, false, 0);
 }
 
-/// " mm" and the like; empty for none.
-CString unitText(eVQUnit unit)
-{
-    if (unit < 0 || unit >= VQ_UNIT_END)
-        return {};
-    return CVQUnit::GetDeciPointedString(0, true, unit, false, true, false, 0).Mid(1);
-}
-
 CString headingOf(const ReportContent& content, int exponent)
 {
     CString heading = textOf(content.valueName);
-    CString unit = unitText(content.unit);
-    unit.Trim();
+    CString unit = textOf(content.unit);
     if (exponent != 0) {
         CString power;
         power.Format(L"10^%d", exponent);
@@ -57,11 +48,12 @@ std::string sizeFact(const char* label, float least, float most)
 }
 
 /// A number as those of the axis, with one more decimal.
-CString meanText(double mean, const Ticks& ticks, eVQUnit unit)
+CString meanText(double mean, const Ticks& ticks, const std::string& unit)
 {
     Ticks finer = ticks;
     ++finer.decimals;
-    return tickText(mean, finer) + (ticks.exponent == 0 ? unitText(unit) : CString());
+    const CString text = tickText(mean, finer);
+    return ticks.exponent == 0 && !unit.empty() ? text + L" " + textOf(unit) : text;
 }
 
 } // namespace

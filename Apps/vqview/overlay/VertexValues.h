@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <VQDraw/VQDraw.h>
-
 #include <array>
 #include <cstddef>
 #include <vector>
@@ -23,13 +21,13 @@ struct VertexValueRow
 {
     VertexValue id;
     const char* name; ///< UTF-8
-    eVQUnit unit;     ///< `VQ_UNIT_END` is none
+    const char* unit; ///< UTF-8
 };
 
 inline constexpr std::array<VertexValueRow, static_cast<std::size_t>(VertexValue::End)> kVertexValues{{
-    {VertexValue::Height, "Height", VQ_UNIT_LENGTH},
-    {VertexValue::Distance, "Distance from centre", VQ_UNIT_LENGTH},
-    {VertexValue::Curvature, "Curvature, 1/mm", VQ_UNIT_END},
+    {VertexValue::Height, "Height", "mm"},
+    {VertexValue::Distance, "Distance from centre", "mm"},
+    {VertexValue::Curvature, "Curvature", "1/mm"},
 }};
 
 constexpr const VertexValueRow& rowOf(VertexValue value)

@@ -19,7 +19,6 @@ enum class Key : int {
     Backspace = 8,
     Enter = 13,
     Escape = 27,
-    Delete = 127,
     F12 = 256 + 12,
 };
 

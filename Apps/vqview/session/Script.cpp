@@ -141,11 +141,10 @@ constexpr std::array<Named<Button>, 3> kButtons{{
     {"middle", Button::Middle},
     {"right", Button::Right},
 }};
-constexpr std::array<Named<Key>, 5> kKeys{{
+constexpr std::array<Named<Key>, 4> kKeys{{
     {"enter", Key::Enter},
     {"backspace", Key::Backspace},
     {"escape", Key::Escape},
-    {"delete", Key::Delete},
     {"f12", Key::F12},
 }};
 constexpr std::array<Named<bool Shown::*>, 6> kShown{{
@@ -331,6 +330,8 @@ void length(Line& line)
     const std::string_view name = line.word();
     const int index = CVQDrawProperty::GetDPSEnumStringToEnumNo(textOf(name));
     const double value = line.number();
+    if (value < 0)
+        line.fail("sizes are from 0 on");
     if (index < 0)
         line.fail("there is no size " + quoted(name));
     if (!line.fault().empty())

@@ -36,13 +36,13 @@ struct ScriptStage
 /// | `ellipse BUTTON X Y RX RY STEPS` | the same on an ellipse around a place |
 /// | `click X Y` | presses and releases the left button |
 /// | `wheel STEPS X Y` | |
-/// | `key NAME` | a letter or digit; enter, backspace, escape, delete, f12 |
+/// | `key NAME` | a letter or digit; enter, backspace, escape, f12 |
 /// | `hold` | says which keys are held from now on |
 /// | `show WHAT`, `hide WHAT` | faces, edges, vertices, labels, report, keys |
 /// | `through on`, `through off` | whether hidden points count |
 /// | `exchange on`, `exchange off` | of Ctrl and Shift |
 /// | `colour NAME R G B [A]` | a scene colour of the preferences, 0 .. 1 |
-/// | `length NAME VALUE` | a size of the preferences |
+/// | `length NAME VALUE` | a size of the preferences, from 0 on |
 /// | `wait` | for a scan that is being read |
 /// | `count` | prints how many points are selected |
 /// | `time FRAMES` | prints how long a frame takes on average |

@@ -22,7 +22,6 @@ constexpr double kFarthestTarget = 1e3;
 constexpr double kSmallestFitDistance = 1.5; // in front of a line that is seen end on
 // OpenGL takes matrices in single precision.
 constexpr double kSmallestRadius = 1e-15;
-constexpr double kLargestRadius = 1e15;
 constexpr double kNearestShare = 0.01; // of the target's distance
 // Lines and points are drawn nearer than they are by some of their pixels: of the span, or as a share of the depth.
 constexpr double kFreeInFront = 0.1;
@@ -114,7 +113,7 @@ void Camera::fit(const Bounds& bounds)
 {
     const Vector least = inDouble(bounds.least), most = inDouble(bounds.most);
     const double radius = std::hypot(most[0] - least[0], most[1] - least[1], most[2] - least[2]) / 2;
-    const bool isBox = !bounds.isEmpty() && radius <= kLargestRadius;
+    const bool isBox = bounds.isShowable();
     m_radius = isBox && radius >= kSmallestRadius ? radius : 1;
     for (int axis = 0; axis < 3; ++axis)
         m_centre[axis] = isBox ? (least[axis] + most[axis]) / 2 : 0;

@@ -23,8 +23,8 @@ public:
     void setSize(int widthInPixels, int heightInPixels);
 
     /// All of it is seen, from the present direction; what reaches farthest out leaves a twentieth of the picture's
-    /// side free. Its centre becomes the target. Of an empty box, and of one whose numbers are not finite, a unit
-    /// sphere round the origin stands for it, and for a box of one point such a sphere round that.
+    /// side free. Its centre becomes the target. For a box that cannot be shown stands a unit sphere round the origin,
+    /// and for a box of one point such a sphere round that.
     void fit(const Bounds& bounds);
     /// Round the target, by a mouse move in pixels, as if the mouse took the scene's front along. The smaller side of
     /// the picture is half a turn. Upwards and downwards it ends at the poles.

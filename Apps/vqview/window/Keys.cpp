@@ -12,12 +12,11 @@ namespace vqview {
 
 namespace {
 
-constexpr std::array<std::pair<int, Key>, 6> kNamedKeys{{
+constexpr std::array<std::pair<int, Key>, 5> kNamedKeys{{
     {GLFW_KEY_BACKSPACE, Key::Backspace},
     {GLFW_KEY_ENTER, Key::Enter},
     {GLFW_KEY_KP_ENTER, Key::Enter},
     {GLFW_KEY_ESCAPE, Key::Escape},
-    {GLFW_KEY_DELETE, Key::Delete},
     {GLFW_KEY_F12, Key::F12},
 }};
 

@@ -54,6 +54,16 @@ TEST(ModelFile, ReadsByContentWhereTheExtensionSaysNothing)
     }
 }
 
+TEST(ModelFile, ReadsByContentWhereOnlyCarriageReturnsEndLines)
+{
+    std::string text;
+    for (int i = 0; i < 20'000; ++i)
+        text += std::to_string(i) + " 2 3\r";
+    const ReadOutcome outcome = readFile("thing.txt", text);
+    ASSERT_TRUE(outcome.model) << outcome.message;
+    EXPECT_EQ(outcome.model->positions.size(), 20'000);
+}
+
 TEST(ModelFile, ReadsByContentWhereTheExtensionIsWrong)
 {
     for (const char* const name : {"thing.ply", "thing.stl", "thing.off", "thing.xyz", "thing.3ds"})
@@ -81,6 +91,18 @@ TEST(ModelFile, SaysWhatWasLeftOut)
     EXPECT_EQ(
         outcome.message,
         "Of thing.obj is left out: 1 point without a finite place and 2 triangles without three different corners.");
+}
+
+TEST(ModelFile, SaysWhenAScanIsTooLargeToBeShown)
+{
+    EXPECT_EQ(readFile("thing.xyz", "0 0 0\n1.9e15 0 0\n").message, "");
+    for (const char* const far : {"2.1e15", "3e38"}) {
+        const ReadOutcome outcome = readFile("thing.xyz", "0 0 0\n0 " + std::string(far) + " 0\n");
+        ASSERT_TRUE(outcome.model);
+        EXPECT_EQ(outcome.message, "thing.xyz is too large to be shown.") << far;
+    }
+    EXPECT_EQ(readFile("thing.xyz", "-3e38 0 0\n3e38 0 0\nnan 0 0\n").message,
+              "Of thing.xyz is left out: 1 point without a finite place. thing.xyz is too large to be shown.");
 }
 
 TEST(ModelFile, SaysWhyThereIsNothingToRead)

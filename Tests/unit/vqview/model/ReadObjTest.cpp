@@ -61,6 +61,10 @@ TEST(ReadObj, ReadsLinesOfEverySystem)
     EXPECT_EQ(made.failure, "");
     EXPECT_EQ(made.mesh.positions.size(), 2);
     EXPECT_EQ(made.mesh.triangles.size(), 1);
+    const Read old = readObj("# remark\rv 1 2 3\rv 4 \\\r5 6\rf 1 2 1\r");
+    EXPECT_EQ(old.failure, "");
+    EXPECT_THAT(old.mesh.positions, ElementsAre(Point3{1, 2, 3}, Point3{4, 5, 6}));
+    EXPECT_EQ(old.mesh.triangles.size(), 1);
 }
 
 TEST(ReadObj, KeepsNormals)

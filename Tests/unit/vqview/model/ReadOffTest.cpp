@@ -28,6 +28,9 @@ TEST(ReadOff, TakesCountsInTheLineOfTheWordOrTheNextOrWithoutTheWord)
     expectTriangle(readOff("# remark\n\nOFF " + body));
     expectTriangle(readOff(body));
     expectTriangle(readOff("COFF\r\n" + body));
+    std::string old = "# remark\nOFF\n" + body;
+    std::ranges::replace(old, '\n', '\r');
+    expectTriangle(readOff(old));
 }
 
 TEST(ReadOff, TakesNormalsWhereTheWordSaysSo)

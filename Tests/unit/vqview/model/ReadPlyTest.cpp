@@ -74,6 +74,20 @@ TEST(ReadPly, TakesHeadersOfEverySystem)
     for (std::size_t at = 0; (at = text.find('\n', at)) != std::string::npos; at += 2)
         text.replace(at, 1, "\r\n");
     EXPECT_EQ(readPly(text + "0 0 0\r\n1 0 0\r\n0 1 0\r\n3 0 1 2\r\n").mesh.triangles.size(), 1);
+    std::erase(text, '\n');
+    EXPECT_EQ(readPly(text + "0 0 0\r1 0 0\r0 1 0\r3 0 1 2\r").mesh.triangles.size(), 1);
+    EXPECT_EQ(readPly(text + "0 0 0\r1 x 0\r0 1\r").failure,
+              "line 12: an element \"vertex\" is not what the header says");
+}
+
+TEST(ReadPly, TakesBytesBehindAHeaderInWhichOnlyCarriageReturnsEndLines)
+{
+    std::string text = header("binary_little_endian", "element vertex 2\nproperty uchar x\nproperty uchar y\n"
+                                                      "property uchar z\n");
+    std::ranges::replace(text, '\n', '\r');
+    const Read made = readPly(text + "\n\r\n\r\n\r"); // 10 and 13
+    EXPECT_EQ(made.failure, "");
+    EXPECT_THAT(made.mesh.positions, ElementsAre(Point3{10, 13, 10}, Point3{13, 10, 13}));
 }
 
 TEST(ReadPly, TakesCloudsWithoutFaces)

@@ -45,9 +45,31 @@ TEST(ReadStl, TakesTextWithLettersOfAnyCase)
     EXPECT_THAT(made.mesh.triangles, ElementsAre(Triangle{0, 1, 2}));
 }
 
+TEST(ReadStl, TakesTextInWhichOnlyCarriageReturnsEndLines)
+{
+    std::string text(kText);
+    std::erase(text, '\r');
+    std::ranges::replace(text, '\n', '\r');
+    const Read made = readStl(text);
+    EXPECT_EQ(made.failure, "");
+    EXPECT_THAT(made.mesh.triangles, ElementsAre(Triangle{0, 1, 2}));
+}
+
 TEST(ReadStl, PassesOverBytesAfterTheLastTriangle)
 {
-    EXPECT_EQ(readStl(binaryStl("binary") + "more").mesh.triangles.size(), 2);
+    for (const char* const header : {"binary", "solid"}) {
+        const Read made = readStl(binaryStl(header) + "more");
+        EXPECT_EQ(made.failure, "") << header;
+        EXPECT_EQ(made.mesh.triangles.size(), 2) << header;
+    }
+}
+
+TEST(ReadStl, TakesForTextWhatIsTooShortForItsCountOrHasNoZeroByte)
+{
+    const std::string bytes = binaryStl("solid");
+    EXPECT_EQ(readStl(bytes.substr(0, bytes.size() - 1)).failure, "line 1: it ends before its \"endsolid\"");
+    const std::string longName = "solid " + std::string(200, 'x') + std::string(kText.substr(kText.find('\n')));
+    EXPECT_EQ(readStl(longName).mesh.triangles.size(), 1);
 }
 
 TEST(ReadStl, SaysWhatIsMissing)

@@ -21,6 +21,18 @@ TEST(ReadXyz, TakesAPointALine)
     EXPECT_THAT(made.mesh.normals, IsEmpty());
 }
 
+TEST(ReadXyz, TakesAPointALineWhereOnlyCarriageReturnsEndLines)
+{
+    std::string text = "# remark\r";
+    for (int i = 0; i < 30'000; ++i) // several times what is looked into for the first line end
+        text += std::to_string(i) + " 2 3\r";
+    const Read made = readXyz(text);
+    EXPECT_EQ(made.failure, "");
+    ASSERT_EQ(made.mesh.positions.size(), 30'000);
+    EXPECT_EQ(made.mesh.positions.back(), (Point3{29'999, 2, 3}));
+    EXPECT_EQ(readXyz("1 2 3\r4 5\r").failure, "line 2: a point is not three numbers");
+}
+
 TEST(ReadXyz, TakesCommasAndSemicolonsBetweenNumbers)
 {
     EXPECT_THAT(readXyz("1.5,2,3\n4, 5, 6\n").mesh.positions, ElementsAre(Point3{1.5F, 2, 3}, Point3{4, 5, 6}));

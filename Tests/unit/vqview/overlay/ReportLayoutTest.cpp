@@ -2,6 +2,7 @@
 #include "vqview/overlay/ReportLayout.h"
 #include "unit/vqview/overlay/OverlayFixture.h"
 #include "vqview/overlay/Notices.h"
+#include "vqview/overlay/VertexValues.h"
 
 namespace vqview::test::reportLayoutTests {
 namespace {
@@ -16,7 +17,7 @@ ReportContent usualContent()
     content.title = "A scan with a rather long name.ply";
     content.lines = {"Points\t35,947", "Triangles\t69,451", "Edges\t104,288", "Selected\t12", "Width\t155.700 mm"};
     content.valueName = "Height";
-    content.unit = VQ_UNIT_LENGTH;
+    content.unit = "mm";
     return content;
 }
 
@@ -162,8 +163,24 @@ TEST_F(ReportLayoutTest, NamesUnitAndPowerInTheHeading)
     EXPECT_STREQ(reportTexts(content, kUsual, 0, 1).heading, L"Height (mm)");
     EXPECT_STREQ(reportTexts(content, {0, 5e6, 1, 2}, 0, 1).heading, L"Height (10^6 mm)");
     ReportContent plain = content;
-    plain.unit = VQ_UNIT_END;
+    plain.unit.clear();
     EXPECT_STREQ(reportTexts(plain, kUsual, 0, 1).heading, L"Height");
+    EXPECT_STREQ(reportTexts(plain, kUsual, 0, 1).legend.back().value, L"100.0");
+}
+
+TEST_F(ReportLayoutTest, NamesTheUnitOfEveryValueInTheHeadingAndBehindTheMean)
+{
+    for (const auto& [value, heading, mean] :
+         {std::tuple(VertexValue::Height, L"Height (mm)", L"0.25 mm"),
+          std::tuple(VertexValue::Distance, L"Distance from centre (mm)", L"0.25 mm"),
+          std::tuple(VertexValue::Curvature, L"Curvature (1/mm)", L"0.25 1/mm")}) {
+        ReportContent content;
+        content.valueName = rowOf(value).name;
+        content.unit = rowOf(value).unit;
+        const ReportTexts texts = reportTexts(content, {-0.5, 0.5, 0.25, 4}, 0, 1);
+        EXPECT_STREQ(texts.heading, heading);
+        EXPECT_STREQ(texts.legend.back().value, mean);
+    }
 }
 
 TEST_F(ReportLayoutTest, WritesTicksInTheirPower)

@@ -105,7 +105,7 @@ TEST(VertexValues, HaveTheirRowsInOrder)
         EXPECT_EQ(kVertexValues[i].id, static_cast<VertexValue>(i));
         EXPECT_STRNE(kVertexValues[i].name, "");
     }
-    EXPECT_EQ(rowOf(VertexValue::Height).unit, VQ_UNIT_LENGTH);
+    EXPECT_STREQ(rowOf(VertexValue::Height).unit, "mm");
 }
 
 TEST(ColourRamp, RunsFromBlueByGreenToRed)

@@ -80,8 +80,8 @@ TEST(CameraFit, SpansThirtyDegreesOverTheSmallerSide)
 
 TEST(CameraFit, ShowsAUnitSphereRoundTheOriginForWhatHasNoSize)
 {
-    for (const Bounds& bounds :
-         {kEmpty, Bounds{{-kInfinity, 0, 0}, {kInfinity, 1, 1}}, Bounds{{0, 0, 0}, {kNotANumber, 1, 1}}}) {
+    for (const Bounds& bounds : {kEmpty, Bounds{{-kInfinity, 0, 0}, {kInfinity, 1, 1}},
+                                 Bounds{{0, 0, 0}, {kNotANumber, 1, 1}}, Bounds{{-1.1e15F, 0, 0}, {1.1e15F, 0, 0}}}) {
         Camera camera;
         camera.setSize(640, 480);
         camera.fit(bounds);
