@@ -43,8 +43,8 @@ public:
     /// A value that is missing stays; of `<lfItalic>`, `<lfCharSet>` and `<lfPitchAndFamily>` the low 8 bits count, a
     /// shadow that is not 0 is true. Sets the heights, also when there is no such section or file.
     void ReadFromFile(const wchar_t* section, const wchar_t* file);
-    /// In that order; all eight are saved at once, or with what a `CVQRegistry::FileScope` around the call saves. A face
-    /// name of several lines, which no file can hold, is left out.
+    /// In that order; all eight are saved at once, or with what a `CVQRegistry::FileScope` around the call saves. A
+    /// face name of several lines, which no file can hold, is left out.
     void WriteToFile(const wchar_t* section, const wchar_t* file);
     /// @}
 

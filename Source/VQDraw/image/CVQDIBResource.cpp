@@ -65,8 +65,9 @@ bool CVQDIB::LoadBitmapW(CBitmap* bitmap, bool resize)
         return false;
     const LONG width = std::min<LONG>(measures.bmWidth, m_iWidth);
     const LONG height = std::min<LONG>(measures.bmHeight, m_iHeight);
-    for (LONG y = 0; m_pImageBuffer && y < height; ++y)
-        std::transform(pixels.get() + offsetOf(y, measures.bmWidth), pixels.get() + offsetOf(y, measures.bmWidth) + width,
-                       m_pImageBuffer + offsetOf(y, m_iWidth), opaque);
+    for (LONG y = 0; m_pImageBuffer && y < height; ++y) {
+        const ULONG* const row = pixels.get() + offsetOf(y, measures.bmWidth);
+        std::transform(row, row + width, m_pImageBuffer + offsetOf(y, m_iWidth), opaque);
+    }
     return true;
 }

@@ -6,8 +6,6 @@
 #include "VQDraw/image/StartUpSteps.h"
 #include "vqCommonBase/VQLocaleAPI.h"
 
-#include <new>
-
 namespace {
 
 VQ_START_ORDER(vq::kModuleObject) CVQDrawApp moduleObject;
@@ -17,9 +15,7 @@ void loadTexts(HINSTANCE library) noexcept
 {
     try {
         CVQLocaleAPI::GetInstance()->LoadCurrentLocaleResource(library, AfxGetStaticModuleState());
-    } catch (CException* exception) {
-        exception->Delete();
-    } catch (const std::bad_alloc&) {
+    } catch (...) { // memory, whose exception is nobody's to delete
         return;
     }
 }

@@ -56,8 +56,8 @@ inline constexpr std::array<std::size_t, kFontFields.size()> kLegacySearch{0, 1,
 /// Height in pixels and point height by the nominal size and the screen's resolution.
 void setHeights(CVQFont& font);
 
-/// As `CVQFont::WriteToFile`. False when a value was not taken; a face name of several lines, which no file can hold, is
-/// left out.
+/// As `CVQFont::WriteToFile`. False when a value was not taken; a face name of several lines, which no file can hold,
+/// is left out.
 bool writeFont(const CVQFont& font, LPCTSTR section, LPCTSTR file);
 
 /// As `CVQFont::ReadFromFileLegacy`, of lines that others read before and after.
