@@ -86,17 +86,17 @@ private:
     std::optional<vq::OutlineGrid> m_beyond;
 };
 
-/// Drops points that something hides. For many of them what hides is looked up in a map, which costs as much as the
-/// viewport is large.
+/// Drops points of an area that something hides. For many of them what hides is looked up in a map, which costs as much
+/// as the area is large in the viewport.
 class Visibility
 {
 public:
-    Visibility(const SVQSelectionView& view, std::size_t points)
+    Visibility(const SVQSelectionView& view, std::size_t points, const vq::Area& area)
         : m_depth(view.m_pDepth, view.m_view.m_iViewport, view.m_dTolerance)
     {
         constexpr double kPixelsForAPoint = 16; // of a map, in the time in which nine are looked at
-        const double pixels = static_cast<double>(view.m_view.m_iViewport[2]) * view.m_view.m_iViewport[3];
-        m_hasMap = static_cast<double>(points) * kPixelsForAPoint >= pixels && m_depth.mapFarthest();
+        const vq::DepthBuffer::Region region = m_depth.regionOf(area);
+        m_hasMap = static_cast<double>(points) * kPixelsForAPoint >= region.pixels() && m_depth.mapFarthest(region);
     }
 
     void dropHidden(const vq::PointBlock& block, std::size_t count, Bits& bits) const
@@ -194,12 +194,19 @@ std::size_t CVQSelection::Select(const CVQSelectionShape& shape, const SVQSelect
     const int(&viewport)[4] = view.m_view.m_iViewport;
     const bool showsNothing = viewport[2] <= 0 || viewport[3] <= 0;
     const Kind kind = showsNothing ? Kind::Empty : shape.m_kind;
+    const auto bounds = [&shape] {
+        if (shape.m_kind == Kind::Polygon)
+            return vq::boundsOf(shape.m_vertices);
+        if (shape.m_kind == Kind::Circle)
+            return vq::boundsOf(shape.m_circle);
+        return vq::Area{shape.m_box[0], shape.m_box[1], shape.m_box[2], shape.m_box[3]};
+    };
     std::unique_ptr<const PolygonLookup> polygon; // these before anything changes, since memory may be short
     std::optional<Visibility> visibility;
     if (kind == Kind::Polygon)
         polygon = std::make_unique<const PolygonLookup>(shape.m_vertices, viewport, view.m_pDepth == nullptr);
     if (kind != Kind::Empty && view.m_pDepth)
-        visibility.emplace(view, points.m_nCount);
+        visibility.emplace(view, points.m_nCount, bounds());
     if (!set.Resize(points.m_nCount))
         return 0;
 

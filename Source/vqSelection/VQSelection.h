@@ -190,8 +190,8 @@ public:
     /// and change nothing.
     ///
     /// The cost is one pass over the points whatever the shape. A polygon is looked up in cells of a pixel, and for
-    /// many points a depth buffer in a copy; their memory is bounded by the viewport and the number of vertices. Every
-    /// build gives the same bits.
+    /// many points a depth buffer in a copy of what the shape covers; their memory is bounded by the viewport and the
+    /// number of vertices. Every build gives the same bits.
     ///
     /// @return how many of the points were changed: selected now and not before, or the other way round.
     static std::size_t Select(const CVQSelectionShape& shape, const SVQSelectionView& view,

@@ -9,6 +9,11 @@
 
 namespace vq {
 
+struct Area
+{
+    double left, top, right, bottom;
+};
+
 /// @param box left, top, right, bottom, all included
 inline bool isInBox(const double (&box)[4], double x, double y)
 {
@@ -28,6 +33,12 @@ struct Side
 {
     double x1, y1, x2, y2;
 };
+
+/// Beyond an area, less than a pixel further, is nothing of which `isInCircle` is true.
+Area boundsOf(const double (&circle)[3]);
+
+/// The same of `isInside`, from x, y of the vertices.
+Area boundsOf(const std::vector<double>& vertices);
 
 /// Whether the line at this height meets the side: at its upper end it does, at its lower end it does not (y
 /// downwards).

@@ -22,11 +22,6 @@
 
 namespace vq {
 
-struct Area
-{
-    double left, top, right, bottom;
-};
-
 class OutlineGrid
 {
 public:
