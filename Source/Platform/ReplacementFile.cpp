@@ -78,13 +78,12 @@ std::wstring resolved(LPCWSTR path)
     return target ? win32::fromUtf8(target.get()) : path;
 }
 
-/// Who may give files away gives the new one to the old one's owner. Nobody's rights as a program (set-user-ID) pass to
-/// what is written anew.
-bool isGiven(int file, const struct stat& old)
+/// Who may give files away gives the new one to the old one's owner, where the file system has owners. Nobody's rights
+/// as a program (set-user-ID) pass to what is written anew.
+bool takesOverRights(int file, const struct stat& old)
 {
     constexpr mode_t kReadWriteRun = 0777;
-    if (geteuid() == 0 && fchown(file, old.st_uid, old.st_gid) != 0)
-        return false;
+    [[maybe_unused]] const int given = geteuid() == 0 ? fchown(file, old.st_uid, old.st_gid) : 0;
     return fchmod(file, old.st_mode & kReadWriteRun) == 0;
 }
 
@@ -95,7 +94,8 @@ Made makeFile(const std::wstring& name, const std::wstring& target)
     if (file < 0)
         return errno == EEXIST ? Made::NameIsTaken : Made::No;
     struct stat old;
-    const bool hasPermissions = stat(win32::nativePath(target.c_str()).c_str(), &old) != 0 || isGiven(file, old);
+    const bool hasPermissions = stat(win32::nativePath(target.c_str()).c_str(), &old) != 0 ||
+                                takesOverRights(file, old);
     close(file);
     if (hasPermissions)
         return Made::Yes;
